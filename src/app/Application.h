@@ -1,0 +1,37 @@
+// What a command-line run of the program holds: the session, the console
+// ports, the positional arguments and the options of the headless verbs.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "frame/Ports.h"
+#include "frame/Session.h"
+
+namespace norvane {
+
+struct OptionsLigne {
+  bool remplacer = false;                 // --remplacer: no replacement question
+  bool ouvrir = false;                    // --ouvrir: open the result when done
+  std::optional<Reponse> reponse;         // --reponse=oui|non: the answer to every question
+  std::vector<std::string> comparer;      // --comparer=<dossier>, slots 1 to 9
+  int annees = 0;                         // --annees=N: years of the Cerfa frame
+  bool aide = false;                      // --help
+  bool version = false;                   // --version
+  std::vector<std::string> inconnues;     // options not understood
+};
+
+struct Application {
+  Session& session;
+  PortMessages& messages;
+  PortProgression& progression;
+  // Positional arguments, ParamCmd(1) first (the verb).
+  std::vector<std::string> arguments;
+  OptionsLigne options;
+
+  // ParamCmd(n), 1-based; empty when there are fewer arguments.
+  std::string Param(std::size_t n) const { return n >= 1 && n <= arguments.size() ? arguments[n - 1] : std::string(); }
+};
+
+}  // namespace norvane

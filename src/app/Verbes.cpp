@@ -1,0 +1,49 @@
+#include "app/Verbes.h"
+
+#include "app/Version.h"
+#include "frame/Texte.h"
+
+namespace norvane {
+
+const std::vector<Verbe>& TableVerbes() {
+  static const std::vector<Verbe> table = {
+      {"INI", "INI <modèle> <résultat> [ouvrir] [remplacer]",
+       "crée un document sans dossier (#esp# tient lieu d'espace dans les chemins)", VerbeIni},
+      {"OUVRIR", "OUVRIR <dossier .TVL> <document>", "ouvre un document d'un dossier (#tvl# pour un espace)",
+       VerbeOuvrir},
+      {"CREER", "CREER <dossier .TVL>", "fenêtre de création de documents sur ce dossier", VerbeCreer},
+      {"CERFA", "CERFA <dossier .TVL>", "fenêtre de création du rapport PDE Cerfa sur ce dossier", VerbeCerfa},
+      {"GRAPH", "GRAPH <dossier .TVL>", "édition des graphiques avec les valeurs de ce dossier", VerbeGraph},
+  };
+  return table;
+}
+
+int ExecuterVerbe(Application& application) {
+  const std::string nom = Majuscules(application.Param(1));
+  for (const Verbe& verbe : TableVerbes()) {
+    if (nom == verbe.nom) return verbe.executer(application);
+  }
+  return 0;
+}
+
+std::string TexteAide() {
+  std::string texte =
+      "Norvane " NORVANE_VERSION " — documents d'étude à partir des modèles RTF et des dossiers Tervol.\n\n"
+      "Usage : norvane [VERBE arguments...] [options]\n"
+      "Sans argument, Norvane démarre sa barre de commandes.\n\nVerbes :\n";
+  for (const Verbe& verbe : TableVerbes()) {
+    texte += "  " + std::string(verbe.syntaxe) + "\n      " + verbe.aide + "\n";
+  }
+  texte +=
+      "\nOptions :\n"
+      "  --remplacer          remplace le résultat sans poser de question\n"
+      "  --ouvrir             ouvre le résultat dans le traitement de texte lié\n"
+      "  --reponse=oui|non    réponse donnée à toute question\n"
+      "  --comparer=<dossier> dossier à comparer (répétable, emplacements 1 à 9)\n"
+      "  --annees=N           nombre d'années d'étude du cadre Cerfa\n"
+      "  --help               affiche cette aide\n"
+      "  --version            affiche la version\n";
+  return texte;
+}
+
+}  // namespace norvane

@@ -1,0 +1,3 @@
+#include "app/Demarrage.h"
+
+int main(int argc, char** argv) { return norvane::Demarrer(argc, argv); }

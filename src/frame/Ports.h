@@ -1,0 +1,44 @@
+// Ports: how the core reaches the user. The core declares them; the console,
+// the windows and the tests each plug in an implementation. Every text that
+// crosses a port is UTF-8.
+#pragma once
+
+#include <string>
+
+namespace norvane {
+
+enum class Boutons { Ok, OuiNon, OuiNonAnnuler };
+enum class Icone { Aucune, Information, Question, Exclamation, Critique };
+enum class Reponse { Ok, Oui, Non, Annuler };
+
+class PortMessages {
+ public:
+  virtual ~PortMessages() = default;
+  // The common message box. `style`: "Aide" for help, "seule" for a single
+  // statement, empty for an error.
+  virtual void AfficherMessage(const std::string& appelant, const std::string& titre, const std::string& texte,
+                               const std::string& conseil, const std::string& style) = 0;
+  // A plain box of the platform: yes/no(/cancel) or OK. `boutonParDefaut` is the
+  // index (0-based) of the default button among those of `boutons`.
+  virtual Reponse PoserQuestion(const std::string& titre, const std::string& texte, Boutons boutons, Icone icone,
+                                int boutonParDefaut) = 0;
+};
+
+class PortProgression {
+ public:
+  virtual ~PortProgression() = default;
+  virtual void DefinirTexte(const std::string& texte) = 0;
+  virtual void DefinirPourcentage(int pourcent) = 0;
+  // True once the user has asked the work in hand to stop.
+  virtual bool ArretDemande() = 0;
+};
+
+// A progress port that shows nothing and never asks to stop.
+class ProgressionMuette : public PortProgression {
+ public:
+  void DefinirTexte(const std::string&) override {}
+  void DefinirPourcentage(int) override {}
+  bool ArretDemande() override { return false; }
+};
+
+}  // namespace norvane

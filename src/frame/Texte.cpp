@@ -1,0 +1,132 @@
+#include "frame/Texte.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+#include <limits>
+
+namespace norvane {
+
+char MinusculeCp1252(char c) {
+  auto u = static_cast<unsigned char>(c);
+  if (u >= 'A' && u <= 'Z') return static_cast<char>(u + 32);
+  if (u >= 0xC0 && u <= 0xDE && u != 0xD7) return static_cast<char>(u + 32);
+  if (u == 0x8A || u == 0x8C || u == 0x8E) return static_cast<char>(u + 16);
+  if (u == 0x9F) return static_cast<char>(0xFF);
+  return c;
+}
+
+char MajusculeCp1252(char c) {
+  auto u = static_cast<unsigned char>(c);
+  if (u >= 'a' && u <= 'z') return static_cast<char>(u - 32);
+  if (u >= 0xE0 && u <= 0xFE && u != 0xF7) return static_cast<char>(u - 32);
+  if (u == 0x9A || u == 0x9C || u == 0x9E) return static_cast<char>(u - 16);
+  if (u == 0xFF) return static_cast<char>(0x9F);
+  return c;
+}
+
+std::string Minuscules(std::string_view texte) {
+  std::string r(texte);
+  std::transform(r.begin(), r.end(), r.begin(), MinusculeCp1252);
+  return r;
+}
+
+std::string Majuscules(std::string_view texte) {
+  std::string r(texte);
+  std::transform(r.begin(), r.end(), r.begin(), MajusculeCp1252);
+  return r;
+}
+
+std::string TrimDroite(std::string_view texte) {
+  auto fin = texte.find_last_not_of(' ');
+  return fin == std::string_view::npos ? std::string() : std::string(texte.substr(0, fin + 1));
+}
+
+std::string TrimGauche(std::string_view texte) {
+  auto debut = texte.find_first_not_of(' ');
+  return debut == std::string_view::npos ? std::string() : std::string(texte.substr(debut));
+}
+
+std::string Trim(std::string_view texte) { return TrimGauche(TrimDroite(texte)); }
+
+bool EstBlanc(std::string_view texte) { return texte.find_first_not_of(' ') == std::string_view::npos; }
+
+std::size_t Chercher(std::string_view texte, std::string_view motif, std::size_t depart, bool sansCasse) {
+  if (!sansCasse) return texte.find(motif, depart);
+  if (motif.empty()) return depart <= texte.size() ? depart : std::string_view::npos;
+  if (depart >= texte.size() || motif.size() > texte.size() - depart) return std::string_view::npos;
+  const char premier = MinusculeCp1252(motif[0]);
+  const std::size_t dernier = texte.size() - motif.size();
+  for (std::size_t i = depart; i <= dernier; ++i) {
+    if (MinusculeCp1252(texte[i]) != premier) continue;
+    std::size_t k = 1;
+    while (k < motif.size() && MinusculeCp1252(texte[i + k]) == MinusculeCp1252(motif[k])) ++k;
+    if (k == motif.size()) return i;
+  }
+  return std::string_view::npos;
+}
+
+std::size_t ChercherSansCasse(std::string_view texte, std::string_view motif, std::size_t depart) {
+  return Chercher(texte, motif, depart, true);
+}
+
+bool EgalSansCasse(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && Chercher(a, b, 0, true) == 0;
+}
+
+bool CommencePar(std::string_view texte, std::string_view debut, bool sansCasse) {
+  if (debut.size() > texte.size()) return false;
+  return sansCasse ? EgalSansCasse(texte.substr(0, debut.size()), debut) : texte.substr(0, debut.size()) == debut;
+}
+
+bool FinitPar(std::string_view texte, std::string_view fin, bool sansCasse) {
+  if (fin.size() > texte.size()) return false;
+  auto queue = texte.substr(texte.size() - fin.size());
+  return sansCasse ? EgalSansCasse(queue, fin) : queue == fin;
+}
+
+int32_t EntierDe(std::string_view texte) {
+  std::size_t i = texte.find_first_not_of(" \t");
+  if (i == std::string_view::npos) return 0;
+  bool negatif = false;
+  if (texte[i] == '-' || texte[i] == '+') negatif = texte[i++] == '-';
+  int64_t valeur = 0;
+  while (i < texte.size() && texte[i] >= '0' && texte[i] <= '9') {
+    valeur = std::min<int64_t>(valeur * 10 + (texte[i++] - '0'), int64_t{1} << 40);
+  }
+  if (negatif) valeur = -valeur;
+  return static_cast<int32_t>(std::clamp<int64_t>(valeur, std::numeric_limits<int32_t>::min(),
+                                                  std::numeric_limits<int32_t>::max()));
+}
+
+int16_t Entier16De(std::string_view texte) {
+  return static_cast<int16_t>(std::clamp<int32_t>(EntierDe(texte), -32768, 32767));
+}
+
+double NombreDe(std::string_view texte) {
+  std::string t = Trim(texte);
+  std::replace(t.begin(), t.end(), ',', '.');
+  std::size_t n = 0;
+  if (n < t.size() && (t[n] == '-' || t[n] == '+')) ++n;
+  while (n < t.size() && ((t[n] >= '0' && t[n] <= '9') || t[n] == '.')) ++n;
+  t.resize(n);
+  if (t.empty() || t[0] == '+') t = t.empty() ? t : t.substr(1);
+  double valeur = 0;
+  auto res = std::from_chars(t.data(), t.data() + t.size(), valeur);
+  return res.ec == std::errc() ? valeur : 0.0;
+}
+
+std::string RemplacerTout(std::string_view texte, std::string_view cherche, std::string_view remplace) {
+  if (cherche.empty()) return std::string(texte);
+  std::string r;
+  r.reserve(texte.size());
+  std::size_t pos = 0;
+  for (std::size_t p; (p = texte.find(cherche, pos)) != std::string_view::npos; pos = p + cherche.size()) {
+    r.append(texte.substr(pos, p - pos));
+    r.append(remplace);
+  }
+  r.append(texte.substr(pos));
+  return r;
+}
+
+}  // namespace norvane
