@@ -26,5 +26,8 @@ int VerbeOuvrir(Application& application);
 int VerbeCreer(Application& application);
 int VerbeCerfa(Application& application);
 int VerbeGraph(Application& application);
+int VerbeGenerer(Application& application);
+int VerbeMettreAJour(Application& application);
+int VerbeExpliquer(Application& application);
 
 }  // namespace norvane

@@ -53,11 +53,13 @@ class LignesTableau {
 };
 
 // The bound word processor, as far as the generator needs it.
+// editeur: 1 Word, 2 Word Pro, 3 OpenOffice (the only one on Linux).
 class PortEditeur {
  public:
   virtual ~PortEditeur() = default;
-  virtual void OuvrirDocument(const std::string& chemin) = 0;
-  // editeur: 1 Word, 2 Word Pro, 3 OpenOffice.
+  virtual void OuvrirDocument(int editeur, const std::string& chemin) = 0;
+  // Saves the open document (opening it first if needed) under `chemin`, in
+  // the format its extension names.
   virtual void SauvegarderSous(bool fermer, int editeur, const std::string& chemin) = 0;
 };
 
@@ -86,8 +88,9 @@ struct Generation {
   const LignesTableau* lignes = nullptr;  // null: no table in hand
   // The moment of generation, for date codes; the system clock when empty.
   std::function<std::time_t()> horloge;
-  // Number of study years forced by the Cerfa frame (0: none).
-  int16_t AnneesForcees = 0;
+  // Set when the Cerfa frame is shown: its years box. A value above 0
+  // replaces the dossier's number of study years, any other gives 5.
+  std::optional<int16_t> AnneesCerfa;
 
   EtatGeneration etat;
 

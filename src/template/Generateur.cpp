@@ -1,0 +1,250 @@
+#include "template/Generateur.h"
+
+#include <fstream>
+#include <utility>
+
+#include "frame/Encodage.h"
+#include "frame/OutilsFichiers.h"
+#include "frame/Texte.h"
+#include "study/DossierGeneral.h"
+#include "template/Editeurs.h"
+#include "template/Interpreteur.h"
+#include "template/MiseAJour.h"
+#include "template/Passes.h"
+#include "template/TablePolices.h"
+
+namespace norvane {
+namespace {
+
+constexpr std::size_t kLimiteCollage = 20000;
+constexpr char kTitreErreur[] = "Erreur détectée :  cliquez Fermer pour continuer";
+
+// What the main loop does after one round on the piece in hand.
+enum class Suite { PieceSuivante, Coller, MemePiece, Fin };
+
+class Creation {
+ public:
+  Creation(Generation& g, ModeleDecoupe decoupe, const std::string& cible)
+      : g_(g), morceaux_(std::move(decoupe.morceaux)), progression_(g.progression, decoupe.nbCodes, cible) {}
+
+  std::string Executer() {
+    std::size_t i = 0;
+    morceau_.Charger(std::move(morceaux_[0]));
+    for (;;) {
+      Suite suite = Tour(i);
+      if (suite == Suite::Fin) break;
+      if (suite == Suite::MemePiece) continue;
+      if (++i >= morceaux_.size()) break;
+      if (suite == Suite::Coller) {
+        morceau_.Coller(morceaux_[i]);
+      } else {
+        morceau_.Charger(std::move(morceaux_[i]));
+      }
+      std::string().swap(morceaux_[i]);
+    }
+    return std::move(sortie_.texte);
+  }
+
+  SuiviProgression& Progression() { return progression_; }
+
+ private:
+  bool Dernier(std::size_t i) const { return i + 1 >= morceaux_.size(); }
+
+  Suite Tour(std::size_t i) {
+    CouperParagrapheCache();
+    if (proprietes_.Passer(morceau_, sortie_)) return Suite::PieceSuivante;
+    EtendreTables();
+    ReparerSignets();
+    const std::size_t debut = morceau_.Trouver(debutCode_);
+    if (debut == std::string::npos) return SansCode(i);
+    sortie_.Ecrire(std::string_view(morceau_.Texte()).substr(morceau_.Debut(), debut - morceau_.Debut()), false);
+    morceau_.Avancer(debut);
+    const std::size_t fin = morceau_.Trouver(finCode_);
+    if (fin == std::string::npos) return SansFin(i);
+    std::string code = morceau_.Texte().substr(debut, fin + 2 - debut);
+    g_.etat.DernierResultat = InterpreterPortion(g_, code, false);
+    progression_.CodeTraite();
+    sortie_.Ecrire(code, true);
+    morceau_.Avancer(fin + 2);
+    return morceau_.Vide() ? Suite::PieceSuivante : Suite::MemePiece;
+  }
+
+  // After a false condition the next paragraph mark loses "ar" and the
+  // character behind it, so that the hidden text runs on.
+  void CouperParagrapheCache() {
+    if (g_.etat.DernierResultat != 0) return;
+    g_.etat.DernierResultat = -1;
+    const std::size_t p = morceau_.Trouver(paragraphe_);
+    if (p == std::string::npos) return;
+    const std::string& t = morceau_.Texte();
+    std::string nouveau = t.substr(morceau_.Debut(), p + 2 - morceau_.Debut());
+    if (p + 5 < t.size()) nouveau.append(t, p + 5);
+    morceau_.Remplacer(std::move(nouveau));
+  }
+
+  void EtendreTables() {
+    if (morceau_.Trouver(tablePolices_) != std::string::npos) {
+      std::string reste(morceau_.Reste());
+      EtendrePolices(reste);
+      morceau_.Remplacer(std::move(reste));
+    }
+    if (morceau_.Trouver(tableCouleurs_) != std::string::npos) {
+      std::string reste(morceau_.Reste());
+      EtendreCouleurs(reste, g_.etat.ProchaineCouleur);
+      morceau_.Remplacer(std::move(reste));
+    }
+  }
+
+  // A bookmark end that a word processor put inside the start mark is moved
+  // in front of it, once for each form.
+  void ReparerSignets() {
+    static constexpr std::pair<std::string_view, std::string_view> kFormes[] = {
+        {"#tvl{\\*\\bkmkend DDE_LINK}(", "{\\*\\bkmkend DDE_LINK}#tvl("},
+        {"#tvl{\\*\\bkmkend DDE_LINK1}(", "{\\*\\bkmkend DDE_LINK1}#tvl("},
+        {"#tvl{\\*\\bkmkend DDE_LINK2}(", "{\\*\\bkmkend DDE_LINK2}#tvl("},
+    };
+    for (std::size_t k = 0; k < 3; ++k) {
+      const std::size_t p = morceau_.Trouver(signets_[k]);
+      if (p == std::string::npos) continue;
+      std::string reste(morceau_.Reste());
+      reste.replace(p - morceau_.Debut(), kFormes[k].first.size(), kFormes[k].second);
+      morceau_.Remplacer(std::move(reste));
+    }
+  }
+
+  // No start mark in the piece: it is written, unless a "#" in its tail may
+  // be the head of a torn mark, in which case it is glued to the next piece.
+  // The last piece has nothing to be glued to, and such a tail is lost.
+  Suite SansCode(std::size_t i) {
+    const std::string_view reste = morceau_.Reste();
+    const std::string_view queue = reste.substr(reste.size() > 6 ? reste.size() - 6 : 0);
+    if (queue.find('#') == std::string_view::npos) {
+      sortie_.Ecrire(reste, true);
+      return Suite::PieceSuivante;
+    }
+    return Dernier(i) ? Suite::Fin : Suite::Coller;
+  }
+
+  // A start mark with no end mark in the piece: glue on while the next piece
+  // is short, else report the fault and let its text stand in the result.
+  Suite SansFin(std::size_t i) {
+    if (!Dernier(i) && morceaux_[i + 1].size() < kLimiteCollage) return Suite::Coller;
+    const std::string reste(morceau_.Reste());
+    const std::string extrait = reste.size() < 66 ? reste : reste.substr(0, 62) + "...";
+    g_.messages.AfficherMessage("CreationDoc", "Le modèle de document comporte une erreur !",
+                                "Norvane ne trouve pas la balise de fin d'un code à interpréter dans le modèle de "
+                                "document utilisé pour la création.",
+                                "Le code concerné est : " + Cp1252VersUtf8(extrait) +
+                                    "\nModifier le modèle de document en conséquence \npour ne plus voir apparaître "
+                                    "cette erreur.",
+                                "");
+    std::string avis = Utf8VersCp1252(
+                           "Norvane n'a pas pû interpréter le code qui suit car il n'a pas trouvé la balise de fin "
+                           "\")#\" : ") +
+                       reste;
+    if (Dernier(i)) {
+      sortie_.Ecrire(avis, true);
+      return Suite::Fin;
+    }
+    morceaux_[i + 1] = avis + morceaux_[i + 1];
+    return Suite::PieceSuivante;
+  }
+
+  Generation& g_;
+  std::vector<std::string> morceaux_;
+  MorceauCourant morceau_;
+  Sortie sortie_;
+  SuiviProgression progression_;
+  PassageProprietes proprietes_;
+  RechercheMemorisee debutCode_{"#tvl(", true};
+  RechercheMemorisee finCode_{")#", false};
+  RechercheMemorisee paragraphe_{"\\par", true};
+  RechercheMemorisee tablePolices_{"{\\fonttbl", true};
+  RechercheMemorisee tableCouleurs_{"{\\colortbl;", true};
+  RechercheMemorisee signets_[3] = {{"#tvl{\\*\\bkmkend DDE_LINK}(", false},
+                                    {"#tvl{\\*\\bkmkend DDE_LINK1}(", false},
+                                    {"#tvl{\\*\\bkmkend DDE_LINK2}(", false}};
+};
+
+void PreparerGeneration(Generation& g) {
+  ChargerInfoDossier(g.session);
+  if (g.AnneesCerfa) g.session.InfoDossier.NbAnEtude = *g.AnneesCerfa > 0 ? *g.AnneesCerfa : 5;
+  g.etat = EtatGeneration{};
+  if (Trim(g.session.RepDossier[1]).empty()) g.session.RepDossier[1] = g.session.RepDossier[0];
+  if (Trim(g.session.NomDossier[1]).empty()) g.session.NomDossier[1] = g.session.NomDossier[0];
+}
+
+bool RemplacementRefuse(Generation& g, const std::string& resultat) {
+  if (FichierExiste(resultat) == 0) return false;
+  const Reponse r = g.messages.PoserQuestion("Norvane", "Le document demandé existe déjà !\nVoulez-vous le remplacer ?",
+                                             Boutons::OuiNon, Icone::Exclamation, 1);
+  return r != Reponse::Oui;
+}
+
+bool EcrireResultat(Generation& g, const std::string& chemin, const std::string& texte) {
+  std::ofstream fichier(chemin, std::ios::binary | std::ios::trunc);
+  fichier.write(texte.data(), static_cast<std::streamsize>(texte.size()));
+  fichier.close();
+  if (fichier) return true;
+  g.messages.AfficherMessage("CreationDoc", kTitreErreur,
+                             "Le document résultat \"" + chemin + "\" ne peut pas être écrit.",
+                             "Vérifiez que son répertoire existe, que vous pouvez y écrire et que le document n'est "
+                             "pas ouvert en lecture seule.",
+                             "");
+  return false;
+}
+
+std::optional<std::string> LireModele(Generation& g, const std::string& modele) {
+  auto contenu = LireFichier(modele);
+  if (!contenu) {
+    g.messages.AfficherMessage("CreationDoc", kTitreErreur,
+                               "Le modèle de document \"" + modele + "\" est introuvable ou illisible.",
+                               "Vérifiez le chemin du modèle choisi pour la création.", "");
+  }
+  return contenu;
+}
+
+// Steps after the writing: conversion, opening, and the removal of the RTF
+// twin of a .doc result.
+void Finir(Generation& g, std::string resultat, bool sansOuvrir) {
+  if (g.session.options.OptimisationOOo == 1 && g.editeur && resultat.size() >= 3) {
+    g.editeur->OuvrirDocument(kEditeurOpenOffice, resultat);
+    resultat = resultat.substr(0, resultat.size() - 3) + "doc";
+    const bool ouvertDansEditeur = IndexEditeur(g.session.options) == kEditeurOpenOffice;
+    g.editeur->SauvegarderSous(!ouvertDansEditeur, kEditeurOpenOffice, resultat);
+    if (ouvertDansEditeur) sansOuvrir = true;
+  }
+  if (!sansOuvrir) OuvrirDocument(g, resultat);
+  if (!FinitPar(resultat, ".RTF", true)) {
+    SauvegarderParEditeur(g, resultat,
+                          "Sélectionnez un traitement de texte dans \"PROPRIETES\" -> \"AUTRE CHOIX\" puis cliquez à "
+                          "nouveau sur \"CREER DOC\".");
+  }
+  if (FinitPar(resultat, ".doc", true)) SupprimeFichier(resultat.substr(0, resultat.size() - 3) + "rtf");
+}
+
+}  // namespace
+
+ResultatDocument CreerDocument(Generation& g, const std::string& modele, const std::string& resultat,
+                               bool miseAJour, bool sansOuvrir, bool demanderRemplacement) {
+  ResultatDocument r;
+  PreparerGeneration(g);
+  if (Trim(modele).empty() || (!miseAJour && demanderRemplacement && RemplacementRefuse(g, resultat))) {
+    r.abandonne = true;
+    return r;
+  }
+  if (miseAJour) return MettreAJourDocument(g, modele, resultat, sansOuvrir);
+  auto contenu = LireModele(g, modele);
+  if (!contenu) return r;
+  ModeleDecoupe decoupe = DecouperEnMorceaux(*contenu);
+  contenu.reset();
+  r.nbCodes = decoupe.nbCodes;
+  Creation creation(g, std::move(decoupe), resultat);
+  const std::string texte = creation.Executer();
+  r.ecrit = EcrireResultat(g, resultat, texte);
+  creation.Progression().Terminer("            Création terminée !");
+  if (r.ecrit) Finir(g, resultat, sansOuvrir);
+  return r;
+}
+
+}  // namespace norvane

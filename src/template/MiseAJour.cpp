@@ -1,0 +1,132 @@
+#include "template/MiseAJour.h"
+
+#include <fstream>
+
+#include "frame/Encodage.h"
+#include "frame/OutilsFichiers.h"
+#include "frame/Texte.h"
+#include "template/Editeurs.h"
+#include "template/Interpreteur.h"
+#include "template/Morceaux.h"
+#include "template/Passes.h"
+
+namespace norvane {
+namespace {
+
+constexpr std::size_t kLimiteCollageChamp = 200000;
+constexpr char kTitreErreur[] = "Erreur détectée :  cliquez Fermer pour continuer";
+
+class MiseAJour {
+ public:
+  MiseAJour(Generation& g, ModeleDecoupe decoupe, const std::string& cible)
+      : g_(g), morceaux_(std::move(decoupe.morceaux)), progression_(g.progression, decoupe.nbCodes, cible) {}
+
+  std::string Executer() {
+    std::size_t i = 0;
+    morceau_.Charger(std::move(morceaux_[0]));
+    for (;;) {
+      const bool coller = Tour(i);
+      if (++i >= morceaux_.size()) break;
+      if (coller) {
+        morceau_.Coller(morceaux_[i]);
+      } else {
+        morceau_.Charger(std::move(morceaux_[i]));
+      }
+      std::string().swap(morceaux_[i]);
+    }
+    return std::move(sortie_.texte);
+  }
+
+  int32_t NbChamps() const { return nbChamps_; }
+  SuiviProgression& Progression() { return progression_; }
+
+ private:
+  // One field a piece; returns true when the piece must be glued to the next.
+  bool Tour(std::size_t i) {
+    if (proprietes_.Passer(morceau_, sortie_)) return false;
+    const std::size_t debut = morceau_.Trouver(marqueDebut_);
+    if (debut == std::string::npos) {
+      sortie_.Ecrire(morceau_.Reste(), true);
+      return false;
+    }
+    sortie_.Ecrire(std::string_view(morceau_.Texte()).substr(morceau_.Debut(), debut - morceau_.Debut()), false);
+    morceau_.Avancer(debut);
+    const std::size_t code = morceau_.Trouver(marqueCode_);
+    // The end mark is looked for behind the code's start, so that a ")#" in
+    // the shown value cannot cut the field short.
+    const std::size_t fin =
+        code == std::string::npos ? code : finCode_.Trouver(morceau_.Texte(), code, morceau_.Version());
+    if (fin == std::string::npos) return Incomplet(i);
+    std::string champ = morceau_.Texte().substr(code, fin + 2 - code);
+    InterpreterPortion(g_, champ, false);
+    progression_.CodeTraite();
+    sortie_.Ecrire(champ + "}", true);
+    ++nbChamps_;
+    return false;
+  }
+
+  // A field whose code has not ended in this piece: glued on while the piece
+  // is under 200000 characters, else written as it stands.
+  bool Incomplet(std::size_t i) {
+    if (i + 1 >= morceaux_.size() || morceau_.Reste().size() >= kLimiteCollageChamp) {
+      sortie_.Ecrire(morceau_.Reste(), true);
+      return false;
+    }
+    return true;
+  }
+
+  Generation& g_;
+  std::vector<std::string> morceaux_;
+  MorceauCourant morceau_;
+  Sortie sortie_;
+  SuiviProgression progression_;
+  PassageProprietes proprietes_;
+  int32_t nbChamps_ = 0;
+  RechercheMemorisee marqueDebut_{"{\\v #debdata#}", true};
+  RechercheMemorisee marqueCode_{"{\\v #findata=#tvl(", true};
+  RechercheMemorisee finCode_{")#", false};
+};
+
+}  // namespace
+
+ResultatDocument MettreAJourDocument(Generation& g, const std::string& document, const std::string& resultat,
+                                     bool sansOuvrir) {
+  ResultatDocument r;
+  if (FinitPar(document, ".doc", true)) {
+    g.messages.AfficherMessage("MiseAJour", kTitreErreur,
+                               "La mise à jour d'un document MS Word demande sa conversion au RTF par le traitement "
+                               "de texte.",
+                               "Enregistrez d'abord le document au format RTF, puis mettez à jour cette copie.", "");
+    return r;
+  }
+  auto contenu = LireFichier(document);
+  if (!contenu) {
+    g.messages.AfficherMessage("MiseAJour", kTitreErreur,
+                               "Le document \"" + document + "\" est introuvable ou illisible.",
+                               "Vérifiez le chemin du document à mettre à jour.", "");
+    return r;
+  }
+  ModeleDecoupe decoupe = DecouperEnMorceaux(*contenu);
+  contenu.reset();
+  r.nbCodes = decoupe.nbCodes;
+  MiseAJour miseAJour(g, std::move(decoupe), document);
+  const std::string texte = miseAJour.Executer();
+  r.nbChampsMisAJour = miseAJour.NbChamps();
+  std::ofstream fichier(CheminReel(document), std::ios::binary | std::ios::trunc);
+  fichier.write(texte.data(), static_cast<std::streamsize>(texte.size()));
+  fichier.close();
+  r.ecrit = static_cast<bool>(fichier);
+  miseAJour.Progression().Terminer("        " + std::to_string(r.nbChampsMisAJour) + " champs mis à jour !");
+  if (!sansOuvrir) OuvrirDocument(g, document);
+  // An RTF result is final as written; any other format goes back through
+  // the word processor.
+  if (!resultat.empty() && !FinitPar(resultat, ".rtf", true)) {
+    SauvegarderParEditeur(g, resultat,
+                          "Sélectionnez un traitement de texte dans \"PROPRIETES\" -> \"AUTRE CHOIX\" puis cliquez à "
+                          "nouveau sur \"CREER DOC\".");
+  }
+  if (FinitPar(resultat, ".doc", true)) SupprimeFichier(resultat.substr(0, resultat.size() - 3) + "rtf");
+  return r;
+}
+
+}  // namespace norvane

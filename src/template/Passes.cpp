@@ -1,0 +1,53 @@
+#include "template/Passes.h"
+
+#include <algorithm>
+
+#include "frame/Encodage.h"
+
+namespace norvane {
+
+bool PassageProprietes::Passer(MorceauCourant& morceau, Sortie& sortie) {
+  const std::size_t titre = morceau.Trouver(titre_);
+  if (titre == std::string::npos) return false;
+  std::size_t fin = auteur_.Trouver(morceau.Texte(), titre, morceau.Version());
+  std::size_t longueur = 7;
+  if (fin == std::string::npos) {
+    fin = morceau.Trouver(societe_);
+    longueur = 8;
+  }
+  if (fin == std::string::npos) {
+    sortie.Ecrire(morceau.Reste(), true);
+    return true;
+  }
+  const std::size_t apres = fin + longueur;
+  sortie.Ecrire(std::string_view(morceau.Texte()).substr(morceau.Debut(), apres - morceau.Debut()), false);
+  morceau.Avancer(apres);
+  return false;
+}
+
+SuiviProgression::SuiviProgression(PortProgression& port, int32_t nbCodes, const std::string& cible)
+    : port_(port), nbCodes_(nbCodes) {
+  if (nbCodes_ <= 0) return;
+  port_.DefinirTexte(CheminAbrege(cible));
+  port_.DefinirPourcentage(0);
+}
+
+void SuiviProgression::CodeTraite() {
+  ++nbTraites_;
+  if (nbCodes_ <= 0) return;
+  const int64_t pourcent = std::min<int64_t>(int64_t{nbTraites_} * 100 / nbCodes_, 100);
+  port_.DefinirPourcentage(static_cast<int>(pourcent));
+}
+
+void SuiviProgression::Terminer(const std::string& texte) {
+  if (nbCodes_ <= 0) return;
+  port_.DefinirPourcentage(100);
+  port_.DefinirTexte(texte);
+}
+
+std::string CheminAbrege(const std::string& chemin) {
+  if (chemin.size() < 33) return chemin;
+  return chemin.substr(0, 3) + "..." + chemin.substr(chemin.size() - 30);
+}
+
+}  // namespace norvane

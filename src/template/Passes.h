@@ -1,0 +1,55 @@
+// Steps shared by the creation and the update of a document: the output
+// text, the passing of the document's property block, and the progress.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "template/Generation.h"
+#include "template/Morceaux.h"
+
+namespace norvane {
+
+inline constexpr std::string_view kFinDeLigne = "\r\n";
+
+struct Sortie {
+  std::string texte;
+  void Ecrire(std::string_view t, bool finDeLigne) {
+    texte.append(t);
+    if (finDeLigne) texte.append(kFinDeLigne);
+  }
+};
+
+// The property block ({\info ...{\title ...}{\author ...}}) is copied out
+// uninterpreted, so that a code in the title never runs.
+class PassageProprietes {
+ public:
+  // Returns true when the whole piece has been written (a title with neither
+  // author nor company behind it): the caller moves to the next piece.
+  bool Passer(MorceauCourant& morceau, Sortie& sortie);
+
+ private:
+  RechercheMemorisee titre_{"\\title", false};
+  RechercheMemorisee auteur_{"\\author", false};
+  RechercheMemorisee societe_{"\\company", false};
+};
+
+// Percent of codes handled, on the progress port.
+class SuiviProgression {
+ public:
+  SuiviProgression(PortProgression& port, int32_t nbCodes, const std::string& cible);
+  void CodeTraite();
+  void Terminer(const std::string& texte);
+
+ private:
+  PortProgression& port_;
+  int32_t nbCodes_;
+  int32_t nbTraites_ = 0;
+};
+
+// The target path as the progress display shows it: whole under 33
+// characters, else its first 3, "..." and its last 30.
+std::string CheminAbrege(const std::string& chemin);
+
+}  // namespace norvane
