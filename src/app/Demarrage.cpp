@@ -1,3 +1,4 @@
+#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 #include "app/Demarrage.h"
 
 #include <iostream>
@@ -21,3 +22,4 @@ int Demarrer(int argc, char** argv) {
 }
 
 }  // namespace norvane
+#endif  // TEMPORAIRE

@@ -1,3 +1,4 @@
+#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 #include "app/EditeurLigneCommande.h"
 
 #include <fcntl.h>
@@ -88,3 +89,4 @@ void EditeurLigneCommande::SauvegarderSous(bool, int, const std::string& chemin)
 }
 
 }  // namespace norvane
+#endif  // TEMPORAIRE

@@ -1,3 +1,4 @@
+#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 #include "app/OptionsLigne.h"
 
 #include <algorithm>
@@ -50,3 +51,4 @@ OptionsLigne ExtraireOptions(std::vector<std::string>& arguments) {
 }
 
 }  // namespace norvane
+#endif  // TEMPORAIRE

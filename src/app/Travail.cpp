@@ -1,3 +1,4 @@
+#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 #include "app/Travail.h"
 
 #include <iostream>
@@ -36,3 +37,4 @@ Travail::Travail(Application& application, PortMessages* messages)
 Travail::~Travail() = default;
 
 }  // namespace norvane
+#endif  // TEMPORAIRE

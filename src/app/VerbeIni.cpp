@@ -1,3 +1,4 @@
+#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 // INI <template> <result> [ouvrir] [remplacer]: a document made without a
 // dossier, so that only INI: codes and the like yield values.
 #include "app/Travail.h"
@@ -24,3 +25,4 @@ int VerbeIni(Application& application) {
 }
 
 }  // namespace norvane
+#endif  // TEMPORAIRE

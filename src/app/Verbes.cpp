@@ -1,3 +1,4 @@
+#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 #include "app/Verbes.h"
 
 #include "app/Version.h"
@@ -47,3 +48,4 @@ std::string TexteAide() {
 }
 
 }  // namespace norvane
+#endif  // TEMPORAIRE

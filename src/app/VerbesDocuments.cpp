@@ -1,3 +1,4 @@
+#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 // GENERER, METTREAJOUR and EXPLIQUER: the headless jobs on documents.
 #include <iostream>
 
@@ -73,3 +74,4 @@ int VerbeExpliquer(Application& application) {
 }
 
 }  // namespace norvane
+#endif  // TEMPORAIRE

@@ -1,3 +1,4 @@
+#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 #include "template/Generateur.h"
 
 #include <fstream>
@@ -248,3 +249,4 @@ ResultatDocument CreerDocument(Generation& g, const std::string& modele, const s
 }
 
 }  // namespace norvane
+#endif  // TEMPORAIRE
