@@ -10,7 +10,9 @@ namespace {
 constexpr char kEspaceInsecable = '\xA0';
 
 // Shortest decimal text of the float, without exponent: sign, digits of the
-// whole part, digits of the fraction.
+// whole part, digits of the fraction. The digits are those of the shortest
+// text that reads back as the same float, placed by its exponent, so 1e20f
+// gives "100000000000000000000" and not the float's exact binary expansion.
 struct Decimal {
   bool negatif = false;
   std::string entier;
@@ -19,16 +21,31 @@ struct Decimal {
 
 Decimal Decomposer(float valeur) {
   char tampon[64];
-  auto res = std::to_chars(tampon, tampon + sizeof tampon, valeur, std::chars_format::fixed);
+  auto res = std::to_chars(tampon, tampon + sizeof tampon, valeur, std::chars_format::scientific);
   std::string_view t(tampon, static_cast<std::size_t>(res.ptr - tampon));
   Decimal d;
   if (!t.empty() && t[0] == '-') {
     d.negatif = true;
     t.remove_prefix(1);
   }
-  auto point = t.find('.');
-  d.entier = std::string(t.substr(0, point));
-  if (point != std::string_view::npos) d.fraction = std::string(t.substr(point + 1));
+  std::size_t e = t.find('e');
+  int exposant = 0;
+  std::from_chars(t.data() + e + 1 + (t[e + 1] == '+' ? 1 : 0), t.data() + t.size(), exposant);
+  std::string chiffres;
+  for (char c : t.substr(0, e)) {
+    if (c != '.') chiffres += c;
+  }
+  // The first digit stands for 10^exposant: the whole part holds exposant + 1 digits.
+  long entiers = static_cast<long>(exposant) + 1;
+  if (entiers <= 0) {
+    d.entier = "0";
+    d.fraction = std::string(static_cast<std::size_t>(-entiers), '0') + chiffres;
+  } else if (static_cast<std::size_t>(entiers) >= chiffres.size()) {
+    d.entier = chiffres + std::string(static_cast<std::size_t>(entiers) - chiffres.size(), '0');
+  } else {
+    d.entier = chiffres.substr(0, static_cast<std::size_t>(entiers));
+    d.fraction = chiffres.substr(static_cast<std::size_t>(entiers));
+  }
   return d;
 }
 
@@ -71,8 +88,8 @@ std::string Grouper(const std::string& entier) {
 }  // namespace
 
 std::string FormatNombre(float valeur, int16_t decimales, bool videSiZero) {
-  if (videSiZero && valeur == 0.0f) return " ";
   if (!std::isfinite(valeur)) valeur = 0.0f;
+  if (videSiZero && valeur == 0.0f) return " ";
   Decimal d = Decomposer(valeur);
   int places = decimales >= 0 && decimales <= 6 ? decimales : DecimalesAutomatiques(d);
   Arrondir(d, static_cast<std::size_t>(places));
