@@ -1,4 +1,6 @@
 // The user's preferences, as held in Editeur.svg (see Parametres.h for the file).
+// Texts are Windows-1252 bytes, as in the file: convert with Encodage.h where
+// they meet the user (UTF-8) or the file system.
 #pragma once
 
 #include <array>

@@ -32,12 +32,17 @@ std::string CheminVersUrl(const std::string& chemin);
 // is never scanned again.
 std::string RemplaceTexte(std::string_view texte, std::string_view cherche, std::string_view remplace);
 
+// `nom` inside `dossier`, with one "/" between them; an empty folder gives `nom`.
+std::string JoindreChemin(std::string_view dossier, std::string_view nom);
+
 // The existing file or folder that `chemin` names, each component matched
-// without regard to case ("RES.DON" finds "res.don"), "\" taken as "/".
+// without regard to case ("RES.DON" finds "res.don"), "\" taken as "/". A name
+// held in Windows-1252 also finds the same name stored in UTF-8 on disk.
 // std::nullopt when no such entry exists.
 std::optional<std::string> ResoudreChemin(const std::string& chemin);
-// ResoudreChemin, or the path itself (with "\" as "/") when nothing matches:
-// the path to use for any open.
+// The path to use for any open or creation: each leading component that
+// exists is taken with its real name, the rest (from the first missing
+// component on) stands as given, "\" as "/".
 std::string CheminReel(const std::string& chemin);
 // Whole content of a file found through ResoudreChemin; std::nullopt when it
 // cannot be read.
