@@ -32,6 +32,8 @@ std::string Capitaliser(std::string_view nom) {
 
 std::string NomEditeur(std::string_view cheminEditeur) { return Minuscules(DernierComposant(cheminEditeur)); }
 
+std::string NomEditeur(const Options& options) { return NomEditeur(options.CheminEditeur); }
+
 bool EstDriverOpenOffice(std::string_view nomEditeur) {
   return nomEditeur == "soffice" || nomEditeur == "soffice.bin" || nomEditeur == "libreoffice" ||
          nomEditeur == "soffice.exe";

@@ -24,6 +24,8 @@ inline constexpr const char* kTitreChoixEditeur = "Choix d'un éditeur de texte 
 // Last path component of the path in lower case ("/usr/bin/soffice" gives
 // "soffice", "C:\Office\WINWORD.EXE\" gives "winword.exe"); "" when none.
 std::string NomEditeur(std::string_view cheminEditeur);
+// NomEditeur of the bound editor (Options::CheminEditeur).
+std::string NomEditeur(const Options& options);
 // True for the executables served by the OpenOffice driver: "soffice",
 // "soffice.bin", "libreoffice" and "soffice.exe".
 bool EstDriverOpenOffice(std::string_view nomEditeur);
