@@ -139,6 +139,7 @@ ContenuParametres ChargerParametres(const std::string& repNorvane) {
 std::optional<std::string> EnregistrerParametres(const ContenuParametres& contenu, const std::string& repNorvane) {
   std::string octets;
   if (auto erreur = EncoderParametres(contenu, octets)) return erreur;
+  if (!DossierExiste(repNorvane)) CreeDossier(repNorvane);
   const std::string chemin = CheminFichier(repNorvane);
   if (!EcrireFichierAtomique(chemin, octets)) {
     return "Impossible d'écrire le fichier des paramètres " + CheminReel(chemin) + ".";

@@ -38,7 +38,7 @@ std::optional<std::string> EncoderParametres(const ContenuParametres& contenu, s
 // they are missing. A missing and an empty file both give the defaults.
 ContenuParametres ChargerParametres(const std::string& repNorvane);
 // Rewrites <repNorvane>/Editeur.svg whole, through a temporary file renamed
-// over it. On error (text too long, disk), returns the French error text and
+// over it, creating the folder when it is missing. On error (text too long, disk), returns the French error text and
 // leaves the old file as it was.
 std::optional<std::string> EnregistrerParametres(const ContenuParametres& contenu, const std::string& repNorvane);
 
