@@ -1,0 +1,60 @@
+// Catalogues (.CFG in Datacfg/): which series a theme file holds, under which
+// titles and groups. They feed the series trees of the choice dialogs.
+//
+// .CFG record, 118 bytes; the number of records is the file's length / 118,
+// truncated:
+//   OFFSET SIZE MEANING
+//   0      12   CodeCatalogue  series code "<name>-<number>", maybe ":<decimals>"
+//   12     22   Intitule       title; "[ sans nom ]" marks an unused entry
+//   34     40   Groupe1        first level of grouping, blank if none
+//   74     40   Groupe2        second level of grouping, blank if none
+//   114    2    Sorte          16-bit; 0 in record 1: the catalogue is empty;
+//                              1: a series line
+//   116    2    Reserve116     16-bit, not used
+// Record 1 is the head: its Intitule is the title of the whole tree.
+// RES.CFG describes RES.DON.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "frame/LecteurBinaire.h"
+
+namespace norvane {
+
+constexpr std::size_t kLongueurEntreeCatalogue = 118;
+
+// Texts kept as the Windows-1252 bytes of the file, with their padding.
+struct EntreeCatalogue {
+  std::string CodeCatalogue;
+  std::string Intitule;
+  std::string Groupe1;
+  std::string Groupe2;
+  int16_t Sorte = 0;
+  int16_t Reserve116 = 0;
+};
+
+bool LireEntreeCatalogue(LecteurBinaire& lecteur, EntreeCatalogue& entree);
+// Every whole record of the bytes of a catalogue file.
+std::vector<EntreeCatalogue> LireCatalogue(std::string_view octets);
+
+// One node of a series tree, in the order a tree control is filled: a parent
+// always comes before its children. Texts and keys are Windows-1252.
+struct NoeudArbre {
+  std::string cle;
+  std::string texte;
+  std::string image;      // "rep" for the head and groups, "puce" for a series
+  std::string cleParent;  // empty for a node at the top
+};
+
+// The tree of a catalogue. `catalogue` is a file name ("RES.CFG"), found in
+// `repDatacfg`, or a path. The head node is keyed by the catalogue's name
+// ("RES"), group nodes by that name, "-" and the group titles, and each series
+// by the .DON name, "+" and its code up to ":" ("RES.DON+RES-17"). RESSUP.CFG
+// has no head node. A missing or empty catalogue gives no node.
+std::vector<NoeudArbre> RemplirArbreSeries(const std::string& catalogue, const std::string& repDatacfg);
+
+}  // namespace norvane

@@ -1,0 +1,221 @@
+#include "study/Series.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "frame/Encodage.h"
+#include "frame/FormatNombre.h"
+#include "frame/OutilsFichiers.h"
+#include "frame/Texte.h"
+
+namespace norvane {
+namespace {
+
+constexpr const char* kAppelant = "CreationDoc";
+constexpr int kDerniereColonne = 13;
+
+// The parts of a series code once its file is known.
+struct CodeSerieLu {
+  std::string fichier;
+  std::string selecteur;     // what stands behind the "-"
+  int32_t numeroParDefaut;   // record named before the "-" of an "@" code, else 0
+};
+
+bool CommenceParUnNombre(std::string_view texte) {
+  std::size_t i = texte.find_first_not_of(" \t");
+  if (i < texte.size() && (texte[i] == '-' || texte[i] == '+')) ++i;
+  return i < texte.size() && texte[i] >= '0' && texte[i] <= '9';
+}
+
+// The record number that stands in `reste`, or the one the code named before.
+int32_t NumeroDerriere(std::string_view reste, int32_t parDefaut) {
+  return CommenceParUnNombre(reste) ? EntierDe(reste) : parDefaut;
+}
+
+std::string Apres(std::string_view texte, long position) {
+  if (position < 0 || static_cast<std::size_t>(position) >= texte.size()) return {};
+  return std::string(texte.substr(static_cast<std::size_t>(position) + 1));
+}
+
+uintmax_t TailleReelle(const std::string& chemin) {
+  auto reel = ResoudreChemin(chemin);
+  std::error_code erreur;
+  if (!reel || !std::filesystem::is_regular_file(*reel, erreur)) return 0;
+  auto taille = std::filesystem::file_size(*reel, erreur);
+  return erreur ? 0 : taille;
+}
+
+std::string FichierDeFamille(const ContexteSeries& contexte, char famille) {
+  switch (famille) {
+    case 'p': return "CltP" + contexte.entites.NumCulturePCourante() + ".don";
+    case 'a': return "AL" + contexte.entites.NumActivite2Chiffres() + "AL.don";
+    default: return "Cult" + contexte.entites.NumCultureCourante() + ".don";
+  }
+}
+
+// "@" code: the "@" and the family letter are dropped from `code`, and the
+// "-" moves back by two. Unless the selector asks for a crop title, the text
+// before the "-" is the record number.
+CodeSerieLu AnalyserCodeFamille(const ContexteSeries& contexte, std::string& code, long tiret, int16_t dossier) {
+  code.erase(0, 1);
+  char famille = code.empty() ? 'c' : code[0];
+  if (famille != 'c' && famille != 'p' && famille != 'a') famille = 'c';
+  if (!code.empty()) code.erase(0, 1);
+  tiret -= 2;
+  CodeSerieLu lu{DossierDuSlot(contexte.session, dossier) + FichierDeFamille(contexte, famille), Apres(code, tiret), 0};
+  if (lu.selecteur.empty() || lu.selecteur[0] != 'c') {
+    const std::size_t avant = tiret < 0 ? 0 : std::min(static_cast<std::size_t>(tiret), code.size());
+    lu.numeroParDefaut = EntierDe(std::string_view(code).substr(0, avant));
+  }
+  return lu;
+}
+
+void ErreurCodeInconnu(const ContexteSeries& contexte, const std::string& code) {
+  contexte.messages.AfficherMessage(
+      kAppelant, "Erreur détectée :  cliquez Fermer pour continuer",
+      "Le code \"" + Cp1252VersUtf8(code) + "\" est inconnu de l'interpréteur Norvane.",
+      "Vous devez modifier en conséquence le modèle de document utilisé pour que cette erreur n'apparaisse plus.", "");
+}
+
+void ErreurStatistique(const ContexteSeries& contexte, const std::string& code) {
+  contexte.messages.AfficherMessage(
+      kAppelant, "Erreur détectée dans le modèle",
+      "Le code \"" + Cp1252VersUtf8(code) + "\" est erroné ( après le - ).\nCette portion de code ne peut être traitée.",
+      "Modifiez le modèle utilisé pour que ce message d'erreur n'apparaisse plus.", "");
+}
+
+float Colonne(const SerieDonnees& serie, int annee) {
+  return annee >= 0 && annee <= kDerniereColonne ? serie.Valeur[static_cast<std::size_t>(annee)] : 0.0f;
+}
+
+std::string Valeur(const std::string& fichier, int32_t numero, int annee, int16_t& decimales) {
+  const SerieDonnees serie = LireEnregistrementSerie(fichier, numero);
+  if (decimales == -1) decimales = DecimalesDeCode(serie.CodeSerie);
+  return FormatNombre(Colonne(serie, annee), decimales, false);
+}
+
+// Selectors i and u: the label in lower case before the "|", or the unit behind it.
+std::string Libelle(const CodeSerieLu& lu) {
+  const SerieDonnees serie = LireEnregistrementSerie(lu.fichier, NumeroDerriere(Apres(lu.selecteur, 0), lu.numeroParDefaut));
+  const std::size_t barre = serie.Intitule.find('|');
+  if (lu.selecteur[0] == 'u') return barre == std::string::npos ? std::string() : serie.Intitule.substr(barre + 1);
+  return Minuscules(serie.Intitule.substr(0, barre));
+}
+
+// Selector "min", "max", "som" or "moy", with "a" behind for the calendar year.
+std::string Statistique(const ContexteSeries& contexte, const CodeSerieLu& lu, const std::string& code,
+                        int16_t& decimales) {
+  const std::string mot = lu.selecteur.substr(0, 3);
+  if (mot != "min" && mot != "max" && mot != "som" && mot != "moy") {
+    ErreurStatistique(contexte, code);
+    return {};
+  }
+  const bool formeAnnee = lu.selecteur.size() > 3 && lu.selecteur[3] == 'a';
+  const SerieDonnees serie =
+      LireEnregistrementSerie(lu.fichier, NumeroDerriere(Apres(lu.selecteur, formeAnnee ? 3 : 2), lu.numeroParDefaut));
+  const int nbAnnees = std::min<int>(contexte.session.InfoDossier.NbAnEtude, kDerniereColonne);
+  float acc = serie.Valeur[1];
+  int rang = 0;
+  for (int i = 2; i <= nbAnnees; ++i) {
+    const float v = serie.Valeur[static_cast<std::size_t>(i)];
+    if ((mot == "min" && v < acc) || (mot == "max" && v > acc)) {
+      acc = v;
+      rang = i - 1;
+    } else if (mot == "som" || mot == "moy") {
+      acc += v;
+    }
+  }
+  if (mot == "moy" && nbAnnees >= 1) acc /= static_cast<float>(nbAnnees);
+  if (formeAnnee) return std::to_string(contexte.session.InfoDossier.AnneeDebut + rang);
+  if (decimales == -1) decimales = DecimalesDeCode(serie.CodeSerie);
+  return FormatNombre(acc, decimales, false);
+}
+
+// Selector of a year: one digit before an "a" ("3a17"), else two ("12a17");
+// the record stands behind the "a".
+std::string ValeurAnnee(const CodeSerieLu& lu, int16_t& decimales) {
+  const std::size_t chiffres = lu.selecteur.size() > 1 && lu.selecteur[1] == 'a' ? 1 : 2;
+  const int annee = EntierDe(lu.selecteur.substr(0, chiffres));
+  return Valeur(lu.fichier, NumeroDerriere(Apres(lu.selecteur, static_cast<long>(chiffres)), lu.numeroParDefaut), annee,
+                decimales);
+}
+
+// Step of the selector when no year is given.
+std::string ParSelecteur(const ContexteSeries& contexte, const CodeSerieLu& lu, const std::string& code,
+                         int16_t& decimales) {
+  const EntitesCourantes& entites = contexte.entites;
+  const char premier = lu.selecteur.empty() ? '\0' : lu.selecteur[0];
+  const bool suiviDeC = lu.selecteur.size() > 1 && lu.selecteur[1] == 'c';
+  switch (premier) {
+    case 'i':
+    case 'u': return Libelle(lu);
+    case 'c': return entites.TitreCultureCourante();
+    case 'n': return entites.NomCultureCourante();
+    case 'p': return suiviDeC ? entites.TitreCulturePCourante() : entites.NomCulturePCourante();
+    case 'a': return suiviDeC ? std::string() : entites.NomActivite();
+    case 'm':
+    case 's': return Statistique(contexte, lu, code, decimales);
+    default: return ValeurAnnee(lu, decimales);
+  }
+}
+
+}  // namespace
+
+SerieDonnees SerieVide() {
+  SerieDonnees serie;
+  serie.CodeSerie.assign(12, ' ');
+  serie.Intitule.assign(22, ' ');
+  return serie;
+}
+
+bool LireSerieDonnees(LecteurBinaire& l, SerieDonnees& serie) {
+  l.LireTexte(serie.CodeSerie, 12);
+  l.LireTexte(serie.Intitule, 22);
+  for (float& valeur : serie.Valeur) l.Lire(valeur);
+  return l.Ok();
+}
+
+SerieDonnees LireEnregistrementSerie(const std::string& fichier, int32_t numero) {
+  SerieDonnees serie = SerieVide();
+  auto reel = ResoudreChemin(fichier);
+  if (numero < 1 || !reel) return serie;
+  std::ifstream flux(*reel, std::ios::binary);
+  flux.seekg(static_cast<std::streamoff>(numero - 1) * static_cast<std::streamoff>(kLongueurSerie));
+  char octets[kLongueurSerie];
+  flux.read(octets, sizeof octets);
+  if (flux.gcount() <= 0) return serie;
+  LecteurBinaire lecteur(std::string_view(octets, static_cast<std::size_t>(flux.gcount())));
+  LireSerieDonnees(lecteur, serie);
+  return serie;
+}
+
+int16_t DecimalesDeCode(std::string_view codeSerie) {
+  const std::size_t deuxPoints = codeSerie.find(':');
+  return Entier16De(deuxPoints == std::string_view::npos ? codeSerie : codeSerie.substr(deuxPoints + 1));
+}
+
+std::string DossierDuSlot(const Session& session, int slot) {
+  const auto n = static_cast<std::size_t>(std::clamp(slot, 0, 9));
+  return AjouterAntislash(session.RepDossier[n]) + AjouterAntislash(session.NomDossier[n]);
+}
+
+std::string LireSerie(const ContexteSeries& contexte, std::string& code, int16_t tiret, int16_t& annee,
+                      int16_t& decimales, int16_t dossier) {
+  CodeSerieLu lu;
+  if (!code.empty() && code[0] == '@') {
+    lu = AnalyserCodeFamille(contexte, code, tiret, dossier);
+  } else {
+    const std::size_t plus = code.find('+');
+    if (plus == std::string::npos) {
+      ErreurCodeInconnu(contexte, code);
+      return {};
+    }
+    lu = {DossierDuSlot(contexte.session, dossier) + code.substr(0, plus), Apres(code, tiret), 0};
+  }
+  if (TailleReelle(lu.fichier) == 0) return {};
+  if (annee != -1) return Valeur(lu.fichier, NumeroDerriere(lu.selecteur, lu.numeroParDefaut), annee, decimales);
+  return ParSelecteur(contexte, lu, code, decimales);
+}
+
+}  // namespace norvane
