@@ -32,6 +32,9 @@ void AjouterUtf8(std::string& sortie, char32_t cp) {
 
 char VersOctet(char32_t cp) {
   if (cp < 0x80 || (cp >= 0xA0 && cp <= 0xFF)) return static_cast<char>(cp);
+  // The five unassigned bytes travel as the control characters of the same
+  // number, both ways, so that every byte survives a round trip.
+  if (cp >= 0x80 && cp < 0xA0 && kZone80[cp - 0x80] == 0) return static_cast<char>(cp);
   for (std::size_t i = 0; i < kZone80.size(); ++i) {
     if (kZone80[i] == cp && cp != 0) return static_cast<char>(0x80 + i);
   }
