@@ -19,7 +19,7 @@ std::string Entete(const std::string& code) {
 
 // The value as the box shows it: each "\par " a blank.
 std::string ValeurMontree(const std::string& valeur) {
-  return Cp1252VersUtf8(RemplacerTout(Trim(valeur), "\\par ", " "));
+  return Cp1252VersUtf8(Trim(RemplacerTout(valeur, "\\par ", " ")));
 }
 
 }  // namespace

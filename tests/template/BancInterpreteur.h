@@ -1,0 +1,59 @@
+// A generation with scripted ports and a fixed clock (Sunday 22 November 2026,
+// 14:05:09 local time), for the tests of the code interpreter.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <ctime>
+#include <optional>
+#include <string>
+
+#include "frame/Encodage.h"
+#include "frame/PortsScriptes.h"
+#include "template/Generation.h"
+#include "template/Interpreteur.h"
+
+namespace norvane::test {
+
+// Windows-1252 bytes of a UTF-8 literal, as the interpreter writes them.
+inline std::string Cp(const std::string& utf8) { return Utf8VersCp1252(utf8); }
+
+inline std::time_t MomentLocal(int annee, int mois, int jour, int heure, int minute, int seconde) {
+  std::tm t{};
+  t.tm_year = annee - 1900;
+  t.tm_mon = mois - 1;
+  t.tm_mday = jour;
+  t.tm_hour = heure;
+  t.tm_min = minute;
+  t.tm_sec = seconde;
+  t.tm_isdst = -1;
+  return std::mktime(&t);
+}
+
+class BancInterpreteur : public ::testing::Test {
+ protected:
+  BancInterpreteur() : generation(session, messages, progression, entites) {
+    generation.horloge = [this] { return maintenant; };
+  }
+
+  // The text after InterpreterPortion (explain mode off).
+  std::string Interpreter(std::string texte, bool explication = false) {
+    resultat = InterpreterPortion(generation, texte, explication);
+    return texte;
+  }
+  // The value that one code leaves in a text made of that code alone.
+  std::string Valeur(const std::string& code) { return Interpreter("#tvl(" + code + ")#"); }
+
+  DossierGeneral& Info() { return session.InfoDossier; }
+  void Societe() { session.InfoDossier.TypeExploitation = 1; }
+
+  Session session;
+  MessagesScriptes messages;
+  ProgressionMuette progression;
+  EntitesCourantes entites;
+  Generation generation;
+  std::time_t maintenant = MomentLocal(2026, 11, 22, 14, 5, 9);
+  int16_t resultat = 0;
+};
+
+}  // namespace norvane::test
