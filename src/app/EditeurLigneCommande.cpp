@@ -1,4 +1,3 @@
-#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 #include "app/EditeurLigneCommande.h"
 
 #include <fcntl.h>
@@ -89,4 +88,3 @@ void EditeurLigneCommande::SauvegarderSous(bool, int, const std::string& chemin)
 }
 
 }  // namespace norvane
-#endif  // TEMPORAIRE

@@ -1,4 +1,3 @@
-#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 #include "app/OptionsLigne.h"
 
 #include <algorithm>
@@ -51,4 +50,3 @@ OptionsLigne ExtraireOptions(std::vector<std::string>& arguments) {
 }
 
 }  // namespace norvane
-#endif  // TEMPORAIRE

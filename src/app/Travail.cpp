@@ -1,4 +1,3 @@
-#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 #include "app/Travail.h"
 
 #include <iostream>
@@ -37,4 +36,3 @@ Travail::Travail(Application& application, PortMessages* messages)
 Travail::~Travail() = default;
 
 }  // namespace norvane
-#endif  // TEMPORAIRE

@@ -1,4 +1,3 @@
-#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 // INI <template> <result> [ouvrir] [remplacer]: a document made without a
 // dossier, so that only INI: codes and the like yield values.
 #include "app/Travail.h"
@@ -25,4 +24,3 @@ int VerbeIni(Application& application) {
 }
 
 }  // namespace norvane
-#endif  // TEMPORAIRE

@@ -1,4 +1,3 @@
-#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 #include "app/Verbes.h"
 
 #include "app/Version.h"
@@ -15,6 +14,14 @@ const std::vector<Verbe>& TableVerbes() {
       {"CREER", "CREER <dossier .TVL>", "fenêtre de création de documents sur ce dossier", VerbeCreer},
       {"CERFA", "CERFA <dossier .TVL>", "fenêtre de création du rapport PDE Cerfa sur ce dossier", VerbeCerfa},
       {"GRAPH", "GRAPH <dossier .TVL>", "édition des graphiques avec les valeurs de ce dossier", VerbeGraph},
+      {"DOSSIER", "DOSSIER <dossier .TVL>",
+       "affiche le contenu d'un dossier : enregistrement général, organisations, séries", VerbeDossier},
+      {"GENERER", "GENERER <modèle> <résultat> [<dossier .TVL>]",
+       "crée un document à partir d'un modèle et d'un dossier", VerbeGenerer},
+      {"METTREAJOUR", "METTREAJOUR <document> [<dossier .TVL>]",
+       "met à jour les champs d'un document résultat", VerbeMettreAJour},
+      {"EXPLIQUER", "EXPLIQUER <texte> [<dossier .TVL>]", "explique chaque code du texte et sa valeur",
+       VerbeExpliquer},
   };
   return table;
 }
@@ -48,4 +55,3 @@ std::string TexteAide() {
 }
 
 }  // namespace norvane
-#endif  // TEMPORAIRE

@@ -1,4 +1,3 @@
-#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 // GENERER, METTREAJOUR and EXPLIQUER: the headless jobs on documents.
 #include <iostream>
 
@@ -74,4 +73,3 @@ int VerbeExpliquer(Application& application) {
 }
 
 }  // namespace norvane
-#endif  // TEMPORAIRE

@@ -1,4 +1,3 @@
-#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 // Verbs whose job is a window. The windows come with the graphical build; a
 // run without them says so and fails, so that a calling script notices.
 #include <iostream>
@@ -22,4 +21,3 @@ int VerbeCerfa(Application&) { return FenetreAbsente("Création du rapport PDE C
 int VerbeGraph(Application&) { return FenetreAbsente("Edition des graphiques"); }
 
 }  // namespace norvane
-#endif  // TEMPORAIRE

@@ -1,4 +1,3 @@
-#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 #include "template/Editeurs.h"
 
 #include "frame/Editeur.h"
@@ -42,4 +41,3 @@ void SauvegarderParEditeur(Generation& g, const std::string& chemin, const std::
 }
 
 }  // namespace norvane
-#endif  // TEMPORAIRE

@@ -1,4 +1,3 @@
-#if __has_include("frame/Editeur.h") && __has_include("study/DossierGeneral.h")  // TEMPORAIRE
 #include "template/Generateur.h"
 
 #include <fstream>
@@ -249,4 +248,3 @@ ResultatDocument CreerDocument(Generation& g, const std::string& modele, const s
 }
 
 }  // namespace norvane
-#endif  // TEMPORAIRE
