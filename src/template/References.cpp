@@ -59,8 +59,9 @@ std::string ValeurLigneTableau(Generation& generation, int32_t ligne, int16_t an
   return TexteValeur(ligneValide && anneeValide ? lignes->Valeur(ligne, annee) : 0.0f);
 }
 
-// One reference of the formula: where it starts and what stands for it.
-// Each returns std::nullopt (after its box) when the reference is malformed.
+// What stands for one reference of the formula, and where the formula goes
+// on behind it. The readers below return std::nullopt (after their box) when
+// the reference is malformed.
 struct Remplacement {
   std::string valeur;
   std::size_t suite;  // index behind the reference in the formula
