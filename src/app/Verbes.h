@@ -26,6 +26,7 @@ int VerbeOuvrir(Application& application);
 int VerbeCreer(Application& application);
 int VerbeCerfa(Application& application);
 int VerbeGraph(Application& application);
+int VerbeDossier(Application& application);
 int VerbeGenerer(Application& application);
 int VerbeMettreAJour(Application& application);
 int VerbeExpliquer(Application& application);

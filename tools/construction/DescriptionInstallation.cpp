@@ -66,7 +66,7 @@ std::string NomDe(const Json& element, const char* cle) {
 }
 
 // Catalogues are written to Datacfg/ and, like gabarits, kept as models.
-void Modeles_(ObjetJson& o, const std::string& racine, Modeles& modeles) {
+void CataloguesEtGabarits(ObjetJson& o, const std::string& racine, Modeles& modeles) {
   for (const Json* element : o.Elements("gabarits")) {
     ObjetJson g(*element, "gabarit " + NomDe(*element, "nom"), o.Notes());
     modeles[Majuscules(g.TexteUtf8("nom"))] = SeriesModele(g);
@@ -124,7 +124,7 @@ std::vector<std::string> ConstruireInstallation(const Json& description, const s
   Images(o, racine);
   Organisations(o, racine);
   Modeles modeles;
-  Modeles_(o, racine, modeles);
+  CataloguesEtGabarits(o, racine, modeles);
   DonneesIni(o, racine);
   for (const Json* dossier : o.Elements("dossiers")) ConstruireDossier(*dossier, Chemin(racine, "Dossier"), modeles, journal);
   o.Terminer();
