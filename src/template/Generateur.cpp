@@ -130,6 +130,12 @@ class Creation {
   Suite SansFin(std::size_t i) {
     if (!Dernier(i) && morceaux_[i + 1].size() < kLimiteCollage) return Suite::Coller;
     const std::string reste(morceau_.Reste());
+    if (i == pieceSignalee_) {
+      // The same fault met again in the piece that carries its notice: it
+      // has been reported once, its text stands as it is.
+      sortie_.Ecrire(reste, true);
+      return Dernier(i) ? Suite::Fin : Suite::PieceSuivante;
+    }
     const std::string extrait = reste.size() < 66 ? reste : reste.substr(0, 62) + "...";
     g_.messages.AfficherMessage("CreationDoc", "Le modèle de document comporte une erreur !",
                                 "Norvane ne trouve pas la balise de fin d'un code à interpréter dans le modèle de "
@@ -147,6 +153,7 @@ class Creation {
       return Suite::Fin;
     }
     morceaux_[i + 1] = avis + morceaux_[i + 1];
+    pieceSignalee_ = i + 1;
     return Suite::PieceSuivante;
   }
 
@@ -156,6 +163,7 @@ class Creation {
   Sortie sortie_;
   SuiviProgression progression_;
   PassageProprietes proprietes_;
+  std::size_t pieceSignalee_ = std::string::npos;
   RechercheMemorisee debutCode_{"#tvl(", true};
   RechercheMemorisee finCode_{")#", false};
   RechercheMemorisee paragraphe_{"\\par", true};

@@ -49,7 +49,7 @@ class BancInterpreteur : public ::testing::Test {
 
   Session session;
   MessagesScriptes messages;
-  ProgressionMuette progression;
+  ProgressionScriptee progression;
   EntitesCourantes entites;
   Generation generation;
   std::time_t maintenant = MomentLocal(2026, 11, 22, 14, 5, 9);

@@ -1,0 +1,168 @@
+// The generator on whole templates: pieces, torn codes, the end-mark fault,
+// the property block, false conditions, the replacement question, and the
+// update of result documents.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "frame/DossierTemporaire.h"
+#include "frame/PortsScriptes.h"
+#include "template/BancInterpreteur.h"
+#include "template/Generateur.h"
+
+namespace norvane::test {
+namespace {
+
+class GenerateurTest : public BancInterpreteur {
+ protected:
+  GenerateurTest() {
+    Info().NomExploitation = "DUPONT Jean";
+    Info().Commune = "Rennes";
+  }
+
+  // The result of a template given as its bytes.
+  std::string Generer(const std::string& modele, bool demanderRemplacement = false) {
+    dossier.Ecrire("modele.tvm", modele);
+    dernier = CreerDocument(generation, dossier / "modele.tvm", dossier / "resultat.rtf", false, true,
+                            demanderRemplacement);
+    return dossier.Lire("resultat.rtf");
+  }
+
+  std::string MettreAJour(const std::string& document) {
+    dossier.Ecrire("document.rtf", document);
+    dernier = CreerDocument(generation, dossier / "document.rtf", dossier / "document.rtf", true, true, true);
+    return dossier.Lire("document.rtf");
+  }
+
+  DossierTemporaire dossier;
+  ResultatDocument dernier;
+};
+
+std::string Repeter(char c, std::size_t n) { return std::string(n, c); }
+
+TEST_F(GenerateurTest, EmptyTemplateGivesOneEmptyLine) {
+  EXPECT_EQ(Generer(""), "\r\n");
+  EXPECT_TRUE(dernier.ecrit);
+}
+
+TEST_F(GenerateurTest, LinesAreJoinedIntoPiecesOfJustOverAThousandCharacters) {
+  const std::string a = Repeter('a', 600), b = Repeter('b', 600), c = Repeter('c', 10);
+  EXPECT_EQ(Generer(a + "\r\n" + b + "\n" + c + "\n"), a + b + "\r\n" + c + "\r\n");
+}
+
+TEST_F(GenerateurTest, EachCodeIsFollowedByALineEnd) {
+  EXPECT_EQ(Generer("x #tvl(nomExploit)# y #TVL(commune)#z"), "x DUPONT Jean\r\n y Rennes\r\nz\r\n");
+  EXPECT_EQ(dernier.nbCodes, 2);
+  EXPECT_EQ(progression.pourcentages.back(), 100);
+}
+
+TEST_F(GenerateurTest, StartMarkTornAcrossPiecesIsGlued) {
+  const std::string tete = Repeter('a', 998);
+  EXPECT_EQ(Generer(tete + "#tv\r\nl(nomExploit)#z"), tete + "DUPONT Jean\r\nz\r\n");
+}
+
+TEST_F(GenerateurTest, EndMarkInALaterPieceIsFoundByGluing) {
+  const std::string tete = Repeter('a', 997);
+  const std::string milieu = Repeter(' ', 1200);
+  EXPECT_EQ(Generer(tete + "#tvl(\r\n" + milieu + "\r\nnomExploit)#."), tete + "DUPONT Jean\r\n.\r\n");
+}
+
+TEST_F(GenerateurTest, HashNearAPieceEndCausesAHarmlessGlue) {
+  const std::string tete = Repeter('a', 996);
+  EXPECT_EQ(Generer(tete + "1 # 2\r\nbcdefgh"), tete + "1 # 2bcdefgh\r\n");
+}
+
+TEST_F(GenerateurTest, LastPieceWithAHashInItsTailIsLost) {
+  EXPECT_EQ(Generer("premier" + Repeter('x', 1000) + "\r\nfin #"), "premier" + Repeter('x', 1000) + "\r\n");
+}
+
+TEST_F(GenerateurTest, MissingEndMarkBeyondTheGluingLimitStandsInTheResult) {
+  const std::string code = "#tvl(nomExploit" + Repeter('x', 1000);
+  const std::string long_ = Repeter('y', 25000);
+  const std::string r = Generer(code + "\r\n" + long_);
+  ASSERT_EQ(messages.messages.size(), 1u);
+  EXPECT_EQ(messages.messages[0].titre, "Le modèle de document comporte une erreur !");
+  EXPECT_EQ(messages.messages[0].conseil.find("Le code concerné est : " + code.substr(0, 62) + "...\n"), 0u);
+  EXPECT_NE(r.find(Cp("Norvane n'a pas pû interpréter le code qui suit car il n'a pas trouvé la balise de fin "
+                      "\")#\" : #tvl(nomExploit")),
+            std::string::npos);
+  EXPECT_NE(r.find(long_), std::string::npos);
+}
+
+TEST_F(GenerateurTest, MissingEndMarkInTheLastPieceKeepsItsText) {
+  const std::string r = Generer("avant #tvl(nomExploit");
+  EXPECT_EQ(r, "avant " + Cp("Norvane n'a pas pû interpréter le code qui suit car il n'a pas trouvé la balise de "
+                             "fin \")#\" : #tvl(nomExploit\r\n"));
+}
+
+TEST_F(GenerateurTest, CodeInTheTitleIsPassedThroughUninterpreted) {
+  EXPECT_EQ(Generer("{\\info{\\title #tvl(nomExploit)#}{\\author A}} #tvl(commune)#"),
+            "{\\info{\\title #tvl(nomExploit)#}{\\author A}} Rennes\r\n");
+  EXPECT_EQ(Generer("{\\title #tvl(nomExploit)#} #tvl(commune)#"), "{\\title #tvl(nomExploit)#} #tvl(commune)#\r\n");
+}
+
+TEST_F(GenerateurTest, FalseConditionCutsTheNextParagraphMark) {
+  EXPECT_EQ(Generer("#tvl(si(0<>0)alors:commune)# cach\\'e9\\par suite\\par fin"),
+            "\\v\r\n cach\\'e9\\psuite\\par fin\r\n");
+  EXPECT_EQ(Generer("#tvl(si(1<>0)alors:commune)#\\par suite"), "Rennes\r\n\\par suite\r\n");
+}
+
+TEST_F(GenerateurTest, BookmarkInsideTheStartMarkIsMovedOut) {
+  EXPECT_EQ(Generer("#tvl{\\*\\bkmkend DDE_LINK1}(commune)#"), "{\\*\\bkmkend DDE_LINK1}Rennes\r\n");
+}
+
+TEST_F(GenerateurTest, ExistingResultIsKeptWhenTheUserSaysNo) {
+  dossier.Ecrire("resultat.rtf", "ancien");
+  messages.reponses = {Reponse::Non};
+  EXPECT_EQ(Generer("#tvl(commune)#", true), "ancien");
+  EXPECT_TRUE(dernier.abandonne);
+  ASSERT_EQ(messages.questions.size(), 1u);
+  EXPECT_EQ(messages.questions[0].texte, "Le document demandé existe déjà !\nVoulez-vous le remplacer ?");
+  EXPECT_EQ(messages.questions[0].boutonParDefaut, 1);
+  messages.reponses = {Reponse::Oui};
+  EXPECT_EQ(Generer("#tvl(commune)#", true), "Rennes\r\n");
+}
+
+TEST_F(GenerateurTest, UnreadableTemplateOrResultIsReported) {
+  dernier = CreerDocument(generation, dossier / "absent.tvm", dossier / "r.rtf", false, true, false);
+  EXPECT_FALSE(dernier.ecrit);
+  dossier.Ecrire("m.tvm", "x");
+  dernier = CreerDocument(generation, dossier / "m.tvm", dossier / "sans/dossier/r.rtf", false, true, false);
+  EXPECT_FALSE(dernier.ecrit);
+  EXPECT_EQ(messages.messages.size(), 2u);
+}
+
+TEST_F(GenerateurTest, DocResultLosesItsRtfTwin) {
+  dossier.Ecrire("m.tvm", "texte");
+  dossier.Ecrire("r.rtf", "jumeau");
+  CreerDocument(generation, dossier / "m.tvm", dossier / "r.doc", false, true, false);
+  EXPECT_EQ(dossier.Lire("r.doc"), "texte\r\n");
+  EXPECT_FALSE(dossier.Existe("r.rtf"));
+  // No word processor is bound: the conversion to .doc says so.
+  ASSERT_EQ(messages.messages.size(), 1u);
+  EXPECT_EQ(messages.messages[0].texte, "Aucun traitement de texte n'est actuellement lié à Norvane !");
+}
+
+TEST_F(GenerateurTest, UpdateRecomputesOneFieldAPiece) {
+  const std::string champ = "{\\v #debdata#}ancien{\\v #findata=#tvl(commune)#}";
+  const std::string r = MettreAJour("debut " + champ + " reste\r\nautre ligne");
+  EXPECT_EQ(r, "debut {\\v #findata=Rennes}\r\n");
+  EXPECT_EQ(dernier.nbChampsMisAJour, 1);
+  // The marks are gone: a second update finds no field.
+  EXPECT_EQ(MettreAJour(r), r);
+  EXPECT_EQ(dernier.nbChampsMisAJour, 0);
+}
+
+TEST_F(GenerateurTest, UpdateOfADocumentWithoutFieldsKeepsItsText) {
+  EXPECT_EQ(MettreAJour("{\\rtf1 texte\r\nsuite}"), "{\\rtf1 textesuite}\r\n");
+  EXPECT_EQ(dernier.nbChampsMisAJour, 0);
+}
+
+TEST_F(GenerateurTest, UpdateGluesAFieldSpreadOverPieces) {
+  const std::string r = MettreAJour("{\\v #debdata#}" + Repeter('v', 1000) + "\r\n{\\v #findata=#tvl(commune)#}");
+  EXPECT_EQ(r, "{\\v #findata=Rennes}\r\n");
+  EXPECT_EQ(dernier.nbChampsMisAJour, 1);
+}
+
+}  // namespace
+}  // namespace norvane::test
