@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
 
 namespace norvane {
@@ -51,17 +52,50 @@ std::string Trim(std::string_view texte) { return TrimGauche(TrimDroite(texte));
 
 bool EstBlanc(std::string_view texte) { return texte.find_first_not_of(' ') == std::string_view::npos; }
 
+namespace {
+
+struct TableMinuscules {
+  unsigned char t[256];
+  constexpr TableMinuscules() : t() {
+    for (int c = 0; c < 256; ++c) t[c] = static_cast<unsigned char>(c);
+    for (int c = 'A'; c <= 'Z'; ++c) t[c] = static_cast<unsigned char>(c + 32);
+    for (int c = 0xC0; c <= 0xDE; ++c) t[c] = static_cast<unsigned char>(c == 0xD7 ? c : c + 32);
+    t[0x8A] = 0x9A;
+    t[0x8C] = 0x9C;
+    t[0x8E] = 0x9E;
+    t[0x9F] = 0xFF;
+  }
+};
+constexpr TableMinuscules kMinuscules;
+
+inline unsigned char Plier(char c) { return kMinuscules.t[static_cast<unsigned char>(c)]; }
+
+bool SuiteEgale(const char* a, std::string_view motif) {
+  for (std::size_t k = 1; k < motif.size(); ++k) {
+    if (Plier(a[k]) != Plier(motif[k])) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
 std::size_t Chercher(std::string_view texte, std::string_view motif, std::size_t depart, bool sansCasse) {
   if (!sansCasse) return texte.find(motif, depart);
   if (motif.empty()) return depart <= texte.size() ? depart : std::string_view::npos;
   if (depart >= texte.size() || motif.size() > texte.size() - depart) return std::string_view::npos;
-  const char premier = MinusculeCp1252(motif[0]);
-  const std::size_t dernier = texte.size() - motif.size();
-  for (std::size_t i = depart; i <= dernier; ++i) {
-    if (MinusculeCp1252(texte[i]) != premier) continue;
-    std::size_t k = 1;
-    while (k < motif.size() && MinusculeCp1252(texte[i + k]) == MinusculeCp1252(motif[k])) ++k;
-    if (k == motif.size()) return i;
+  const char* debut = texte.data();
+  const char* dernier = debut + (texte.size() - motif.size());
+  const unsigned char premier = Plier(motif[0]);
+  const bool sansVariante = MajusculeCp1252(motif[0]) == MinusculeCp1252(motif[0]);
+  for (const char* p = debut + depart; p <= dernier; ++p) {
+    if (sansVariante) {
+      // A first character with no case of its own: jump to it at memchr speed.
+      p = static_cast<const char*>(std::memchr(p, motif[0], static_cast<std::size_t>(dernier - p) + 1));
+      if (p == nullptr) break;
+    } else if (Plier(*p) != premier) {
+      continue;
+    }
+    if (SuiteEgale(p, motif)) return static_cast<std::size_t>(p - debut);
   }
   return std::string_view::npos;
 }
