@@ -116,8 +116,8 @@ Json LireJson(const std::filesystem::path& chemin) {
 
 }  // namespace
 
-std::vector<std::string> ConstruireInstallation(const Json& description, const std::string& racine) {
-  Journal journal{std::filesystem::absolute(racine).lexically_normal().string(), {}};
+RapportConstruction ConstruireInstallation(const Json& description, const std::string& racine) {
+  Journal journal{std::filesystem::absolute(racine).lexically_normal().string(), {}, {}};
   while (journal.racine.size() > 1 && journal.racine.back() == '/') journal.racine.pop_back();
   ObjetJson o(description, "installation", journal);
   std::filesystem::create_directories(racine);
@@ -128,7 +128,7 @@ std::vector<std::string> ConstruireInstallation(const Json& description, const s
   DonneesIni(o, racine);
   for (const Json* dossier : o.Elements("dossiers")) ConstruireDossier(*dossier, Chemin(racine, "Dossier"), modeles, journal);
   o.Terminer();
-  return journal.avertissements;
+  return {std::move(journal.avertissements), std::move(journal.remarques)};
 }
 
 Json ChargerDescription(const std::string& chemin) {

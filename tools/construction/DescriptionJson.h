@@ -55,10 +55,18 @@
 
 namespace norvane::construction {
 
-// Writes the whole installation under `racine` (made if needed); returns the
-// notes of the journal (texts cut, unknown keys...). Throws ErreurDescription
-// on a value of the wrong type and std::runtime_error on a write failure.
-std::vector<std::string> ConstruireInstallation(const Json& description, const std::string& racine);
+// What a build noted: `avertissements` are faults of the description (texts
+// cut to their field, unknown keys...); `remarques` depend on where the tree
+// is built (a "{racine}" path cut to its field).
+struct RapportConstruction {
+  std::vector<std::string> avertissements;
+  std::vector<std::string> remarques;
+};
+
+// Writes the whole installation under `racine` (made if needed). Throws
+// ErreurDescription on a value of the wrong type or a missing name, and
+// std::runtime_error on a write failure.
+RapportConstruction ConstruireInstallation(const Json& description, const std::string& racine);
 
 // Reads a description file and the files it names, into one JSON value.
 Json ChargerDescription(const std::string& chemin);

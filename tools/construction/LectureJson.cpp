@@ -22,7 +22,14 @@ std::string LargeurVerifiee(std::string texte, std::size_t largeur, const std::s
 }
 
 std::string TexteEtude(const std::string& utf8, std::size_t largeur, const std::string& lieu, Journal& journal) {
-  return LargeurVerifiee(Utf8VersCp1252(RemplacerTout(utf8, "{racine}", journal.racine)), largeur, lieu, journal);
+  const std::string texte = Utf8VersCp1252(RemplacerTout(utf8, "{racine}", journal.racine));
+  if (largeur > 0 && texte.size() > largeur && utf8.find("{racine}") != std::string::npos) {
+    Journal ailleurs;
+    LargeurVerifiee(texte, largeur, lieu, ailleurs);
+    journal.remarques.push_back(ailleurs.avertissements.front() + " (racine de l'installation trop longue)");
+    return texte;
+  }
+  return LargeurVerifiee(texte, largeur, lieu, journal);
 }
 
 ObjetJson::ObjetJson(const Json& valeur, std::string lieu, Journal& journal)

@@ -24,6 +24,9 @@ struct ErreurDescription : std::runtime_error {
 struct Journal {
   std::string racine;  // replaces "{racine}" in texts
   std::vector<std::string> avertissements;
+  // Notes that depend on where the tree is built, not on the description: a
+  // text cut because the root put in its "{racine}" is long.
+  std::vector<std::string> remarques;
 };
 
 class ObjetJson {
