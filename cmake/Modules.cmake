@@ -27,7 +27,7 @@ function(norvane_tests nom dossier)
   add_executable(${nom} ${sources})
   target_include_directories(${nom} PRIVATE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/tests" "${PROJECT_SOURCE_DIR}/tools")
   target_link_libraries(${nom} PRIVATE ${M_DEPENDS} GTest::gtest GTest::gmock GTest::gtest_main)
-  target_compile_definitions(${nom} PRIVATE NORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  target_compile_definitions(${nom} PRIVATE NORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}" NORVANE_ARBRE="${NORVANE_ARBRE}")
   gtest_discover_tests(${nom} DISCOVERY_TIMEOUT 60
     PROPERTIES ENVIRONMENT "NORVANE_EXE=$<TARGET_FILE:norvane>;NORVANE_SOURCE=${PROJECT_SOURCE_DIR}")
 endfunction()
