@@ -166,3 +166,38 @@ TEST_F(GenerateurTest, UpdateGluesAFieldSpreadOverPieces) {
 
 }  // namespace
 }  // namespace norvane::test
+
+namespace norvane::test {
+namespace {
+
+// Broken templates of every kind end with a result, never a crash or a hang.
+TEST_F(GenerateurTest, AnyTemplateEndsWithAResult) {
+  uint32_t graine = 12345;
+  auto hasard = [&graine] { return graine = graine * 1103515245u + 12345u, (graine >> 16) & 0x7FFF; };
+  const std::string morceaux[] = {"#tvl(", ")#", "#TVL(", "\\par", "{\\title", "\\author", "{\\fonttbl",
+                                  "{\\colortbl;", "si(0<>0)alors:", "\r\n", "#", ")", "INFO:", "formule:1a:",
+                                  "{\\v #debdata#}", "{\\v #findata=#tvl(", "nomExploit", "a-b"};
+  for (int essai = 0; essai < 300; ++essai) {
+    std::string modele;
+    const int longueur = static_cast<int>(hasard() % 400);
+    for (int k = 0; k < longueur; ++k) {
+      if (hasard() % 3 == 0) {
+        modele += morceaux[hasard() % std::size(morceaux)];
+      } else {
+        modele += static_cast<char>(hasard() % 256);
+      }
+    }
+    Generer(modele);
+    EXPECT_TRUE(dernier.ecrit);
+    MettreAJour(modele);
+  }
+}
+
+TEST_F(GenerateurTest, HugeUnendedCodeIsReportedOnce) {
+  const std::string r = Generer("debut #tvl(" + Repeter('x', 5 << 20) + "\r\nfin");
+  EXPECT_EQ(messages.messages.size(), 1u);
+  EXPECT_GT(r.size(), std::size_t{5} << 20);
+}
+
+}  // namespace
+}  // namespace norvane::test
