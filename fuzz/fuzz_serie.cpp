@@ -10,18 +10,12 @@
 #include <fstream>
 #include <string>
 
+#include "frame/PortsScriptes.h"
 #include "study/Series.h"
 
 namespace {
 
 using namespace norvane;
-
-class MessagesMuets : public PortMessages {
- public:
-  void AfficherMessage(const std::string&, const std::string&, const std::string&, const std::string&,
-                       const std::string&) override {}
-  Reponse PoserQuestion(const std::string&, const std::string&, Boutons, Icone, int) override { return Reponse::Ok; }
-};
 
 // Every family reads the same file name: "Cult" + "X" + ".don" and so on all
 // point at F.DON through the numbers below.
@@ -61,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* donnees, std::size_t taille
   session.NomDossier[0] = "E.TVL";
   session.InfoDossier.AnneeDebut = 2025;
   session.InfoDossier.NbAnEtude = static_cast<int16_t>(static_cast<int8_t>(donnees[fin + 3]));
-  static MessagesMuets messages;
+  MessagesScriptes messages;
   static EntitesFixes entites;
   ContexteSeries contexte{session, messages, entites};
 

@@ -27,27 +27,19 @@ EnregistrementFixe& EnregistrementFixe::Blancs(std::size_t position, std::size_t
 }
 
 EnregistrementFixe& EnregistrementFixe::Entier16(std::size_t position, int16_t valeur) {
-  std::string champ;
-  EcrireEntier16(champ, valeur);
-  return Poser(position, champ);
+  return Nombre(position, valeur, EcrireEntier16);
 }
 
 EnregistrementFixe& EnregistrementFixe::Entier32(std::size_t position, int32_t valeur) {
-  std::string champ;
-  EcrireEntier32(champ, valeur);
-  return Poser(position, champ);
+  return Nombre(position, valeur, EcrireEntier32);
 }
 
 EnregistrementFixe& EnregistrementFixe::Flottant(std::size_t position, float valeur) {
-  std::string champ;
-  EcrireFlottant(champ, valeur);
-  return Poser(position, champ);
+  return Nombre(position, valeur, EcrireFlottant);
 }
 
 EnregistrementFixe& EnregistrementFixe::Double(std::size_t position, double valeur) {
-  std::string champ;
-  EcrireDouble(champ, valeur);
-  return Poser(position, champ);
+  return Nombre(position, valeur, EcrireDouble);
 }
 
 EnregistrementFixe& EnregistrementFixe::Flottants(std::size_t position, const float* valeurs, std::size_t nombre) {

@@ -29,6 +29,13 @@ class EnregistrementFixe {
 
  private:
   EnregistrementFixe& Poser(std::size_t position, std::string_view champ);
+  // A number written by one of the little-endian writers of LecteurBinaire.h.
+  template <typename T>
+  EnregistrementFixe& Nombre(std::size_t position, T valeur, void (*ecrire)(std::string&, T)) {
+    std::string champ;
+    ecrire(champ, valeur);
+    return Poser(position, champ);
+  }
 
   std::string octets_;
 };
