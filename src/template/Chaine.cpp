@@ -34,24 +34,18 @@ IssueCode Inchange(std::string aide = {}) {
 }
 
 // A port's answer, or the code left as it stands when there is no port or the
-// port does not handle it. In explain mode nothing is computed: help only.
-IssueCode Produit(const std::optional<std::string>& produit, bool explication, std::string aide) {
-  if (explication || !produit) return Inchange(explication ? std::move(aide) : std::string());
-  IssueCode issue = Valeur(*produit, aide);
-  issue.forme = FormeAide::TexteSeul;
-  return issue;
-}
+// port does not handle it.
+IssueCode Produit(const std::optional<std::string>& produit) { return produit ? Valeur(*produit, {}) : Inchange(); }
 
+// In explain mode tables and graphs are not computed: their help alone.
 IssueCode CodeTableau(Generation& g, const std::string& code, bool explication) {
-  std::optional<std::string> produit;
-  if (!explication && g.tableaux != nullptr) produit = g.tableaux->GenererTableau(g, code);
-  return Produit(produit, explication, AideTableau(code));
+  if (explication) return Inchange(AideTableau(code));
+  return Produit(g.tableaux != nullptr ? g.tableaux->GenererTableau(g, code) : std::nullopt);
 }
 
 IssueCode CodeGraphique(Generation& g, const std::string& code, bool explication) {
-  std::optional<std::string> produit;
-  if (!explication && g.graphiques != nullptr) produit = g.graphiques->GenererGraphique(g, code);
-  return Produit(produit, explication, AideGraphique(code));
+  if (explication) return Inchange(AideGraphique(code));
+  return Produit(g.graphiques != nullptr ? g.graphiques->GenererGraphique(g, code) : std::nullopt);
 }
 
 // file + name - selector [: year]: the "-" is the second one when there are

@@ -1,5 +1,9 @@
 // The vocabulary of general fields: société rules, associate lists, project
 // description, path, currency and marketing modes.
+#include <chrono>
+#include <filesystem>
+
+#include "frame/DossierTemporaire.h"
 #include "template/BancInterpreteur.h"
 
 namespace norvane::test {
@@ -130,6 +134,19 @@ TEST_F(ChampsGeneraux, ModesDeCommercialisation) {
   EXPECT_EQ(Valeur("modeCom2"), "\\~");  // the product alone gives a blank
   EXPECT_EQ(Valeur("modeCom3"), "\\~");
   EXPECT_EQ(Valeur("modeCom4"), "- Oeufs : Vente directe");
+}
+
+TEST_F(ChampsGeneraux, DateDuDossierCoupeANeufCaracteres) {
+  DossierTemporaire temporaire;
+  temporaire.Ecrire("ESSAI.TVL/ESSAI.TVL", "");
+  const auto quand = std::chrono::system_clock::from_time_t(MomentLocal(2024, 3, 5, 12, 0, 0));
+  std::filesystem::last_write_time(temporaire / "ESSAI.TVL",
+                                   std::chrono::file_clock::from_sys(quand));
+  // The record keeps the folder with a closing separator, which is dropped.
+  Info().CheminDossierTervol = temporaire / "essai.tvl\\   ";
+  EXPECT_EQ(Valeur("dateDossier"), "05/03/202");
+  Info().CheminDossierTervol = "C:\\Etudes\\ABSENT.TVL\\";
+  EXPECT_EQ(Valeur("dateDossier"), "\\~");
 }
 
 TEST_F(ChampsGeneraux, SautDePage) { EXPECT_EQ(Interpreter("{a#tvl(saut2page)#}"), "{a\\page}"); }
