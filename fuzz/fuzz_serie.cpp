@@ -38,7 +38,8 @@ std::string Dossier() {
 }
 
 void Ecrire(const std::string& chemin, std::string_view octets) {
-  std::ofstream(chemin, std::ios::binary | std::ios::trunc).write(octets.data(), static_cast<std::streamsize>(octets.size()));
+  std::ofstream(chemin, std::ios::binary | std::ios::trunc)
+      .write(octets.data(), static_cast<std::streamsize>(octets.size()));
 }
 
 }  // namespace

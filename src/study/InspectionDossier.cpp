@@ -46,8 +46,8 @@ void Ligne(std::ostream& sortie, const std::string& libelle, const std::string& 
 void Personne(std::ostream& sortie, const DossierGeneral& d, std::size_t i) {
   const std::string libelle = i == 0 ? "Exploitant (0)" : "Associé " + std::to_string(i);
   Ligne(sortie, libelle,
-        Montrer(d.NomAssocie[i]) + " ; JA : " + (d.AssocieJA[i] == 1 ? "oui" : "non") + " ; né(e) le : " +
-            Montrer(d.DateNaissance[i]) + " ; situation : " + Montrer(d.Situation[i]));
+        Montrer(d.NomAssocie[i]) + " ; JA : " + (d.AssocieJA[i] == 1 ? "oui" : "non") +
+            " ; né(e) le : " + Montrer(d.DateNaissance[i]) + " ; situation : " + Montrer(d.Situation[i]));
 }
 
 void Description(std::ostream& sortie, const std::string& description) {
@@ -96,7 +96,8 @@ void ChampsGeneraux(std::ostream& sortie, const DossierGeneral& d) {
 }
 
 // The general record file; false when there is none to read.
-bool EnregistrementGeneral(std::ostream& sortie, const std::string& dossier, const std::string& nom, DossierGeneral& d) {
+bool EnregistrementGeneral(std::ostream& sortie, const std::string& dossier, const std::string& nom,
+                           DossierGeneral& d) {
   sortie << "== Enregistrement général : " << nom << " ==\n";
   const auto octets = LireFichier(dossier + "/" + nom);
   if (!octets) {
@@ -124,8 +125,8 @@ void Organisations(std::ostream& sortie, const std::array<Organisation, 20>& org
     if (EstBlanc(o.Nom) && EstBlanc(o.Sigle) && EstBlanc(o.Ville) && EstBlanc(o.Logo)) continue;
     aucune = false;
     Ligne(sortie, "Organisation " + std::to_string(i),
-          Montrer(o.Nom) + " ; sigle : " + Montrer(o.Sigle) + " ; rue : " + Montrer(o.Rue) + " ; ville : " +
-              Montrer(o.Ville) + " ; tél. : " + Montrer(o.Telephone) + " ; fax : " + Montrer(o.Fax) +
+          Montrer(o.Nom) + " ; sigle : " + Montrer(o.Sigle) + " ; rue : " + Montrer(o.Rue) +
+              " ; ville : " + Montrer(o.Ville) + " ; tél. : " + Montrer(o.Telephone) + " ; fax : " + Montrer(o.Fax) +
               " ; logo : " + Montrer(o.Logo));
   }
   if (aucune) sortie << "  (aucune organisation renseignée)\n";

@@ -40,8 +40,7 @@ bool LireOrganisation(LecteurBinaire& l, Organisation& o) {
   return l.Ok();
 }
 
-void LireParamLogOctets(std::string_view octets, std::array<Organisation, 20>& organisations,
-                        int16_t& paramFinal) {
+void LireParamLogOctets(std::string_view octets, std::array<Organisation, 20>& organisations, int16_t& paramFinal) {
   LecteurBinaire lecteur(octets);
   LireOrganisation(lecteur, organisations[0]);
   SauterEntete(lecteur);

@@ -24,9 +24,8 @@ struct ChampEnteteParamLog {
   std::size_t nombre;   // fields of this kind in a row
 };
 constexpr ChampEnteteParamLog kEnteteParamLog[] = {
-    {2, false, 1},  {20, true, 1},  {150, true, 2}, {20, true, 1},  {2, false, 7},
-    {50, true, 5},  {2, false, 1},  {100, true, 2}, {2, false, 2},  {10, true, 1},
-    {2, false, 2},  {100, true, 2}, {2, false, 3},  {20, true, 2},
+    {2, false, 1},  {20, true, 1}, {150, true, 2}, {20, true, 1}, {2, false, 7},  {50, true, 5}, {2, false, 1},
+    {100, true, 2}, {2, false, 2}, {10, true, 1},  {2, false, 2}, {100, true, 2}, {2, false, 3}, {20, true, 2},
 };
 
 // One organisation record (360 bytes) at the reader's position; a field that
@@ -36,8 +35,7 @@ bool LireOrganisation(LecteurBinaire& lecteur, Organisation& organisation);
 // Reads the whole stream: Organisations(0), the head, ParamFinal,
 // Organisations(1..19), ParamFinal again. The first failed read ends it
 // silently; what was read stays.
-void LireParamLogOctets(std::string_view octets, std::array<Organisation, 20>& organisations,
-                        int16_t& paramFinal);
+void LireParamLogOctets(std::string_view octets, std::array<Organisation, 20>& organisations, int16_t& paramFinal);
 
 // Reads RepWinTervol + "ParamLog/Tervol.par" into session.Organisations and
 // session.ParamFinal. A missing file leaves them as they are (blank at start).

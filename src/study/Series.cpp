@@ -18,8 +18,8 @@ constexpr int kDerniereColonne = 13;
 // The parts of a series code once its file is known.
 struct CodeSerieLu {
   std::string fichier;
-  std::string selecteur;     // what stands behind the "-"
-  int32_t numeroParDefaut;   // record named before the "-" of an "@" code, else 0
+  std::string selecteur;    // what stands behind the "-"
+  int32_t numeroParDefaut;  // record named before the "-" of an "@" code, else 0
 };
 
 bool CommenceParUnNombre(std::string_view texte) {
@@ -48,9 +48,12 @@ uintmax_t TailleReelle(const std::string& chemin) {
 
 std::string FichierDeFamille(const ContexteSeries& contexte, char famille) {
   switch (famille) {
-    case 'p': return "CltP" + contexte.entites.NumCulturePCourante() + ".don";
-    case 'a': return "AL" + contexte.entites.NumActivite2Chiffres() + "AL.don";
-    default: return "Cult" + contexte.entites.NumCultureCourante() + ".don";
+    case 'p':
+      return "CltP" + contexte.entites.NumCulturePCourante() + ".don";
+    case 'a':
+      return "AL" + contexte.entites.NumActivite2Chiffres() + "AL.don";
+    default:
+      return "Cult" + contexte.entites.NumCultureCourante() + ".don";
   }
 }
 
@@ -79,10 +82,10 @@ void ErreurCodeInconnu(const ContexteSeries& contexte, const std::string& code) 
 }
 
 void ErreurStatistique(const ContexteSeries& contexte, const std::string& code) {
-  contexte.messages.AfficherMessage(
-      kAppelant, "Erreur détectée dans le modèle",
-      "Le code \"" + Cp1252VersUtf8(code) + "\" est erroné ( après le - ).\nCette portion de code ne peut être traitée.",
-      "Modifiez le modèle utilisé pour que ce message d'erreur n'apparaisse plus.", "");
+  contexte.messages.AfficherMessage(kAppelant, "Erreur détectée dans le modèle",
+                                    "Le code \"" + Cp1252VersUtf8(code) +
+                                        "\" est erroné ( après le - ).\nCette portion de code ne peut être traitée.",
+                                    "Modifiez le modèle utilisé pour que ce message d'erreur n'apparaisse plus.", "");
 }
 
 float Colonne(const SerieDonnees& serie, int annee) {
@@ -97,7 +100,8 @@ std::string Valeur(const std::string& fichier, int32_t numero, int annee, int16_
 
 // Selectors i and u: the label in lower case before the "|", or the unit behind it.
 std::string Libelle(const CodeSerieLu& lu) {
-  const SerieDonnees serie = LireEnregistrementSerie(lu.fichier, NumeroDerriere(Apres(lu.selecteur, 0), lu.numeroParDefaut));
+  const SerieDonnees serie =
+      LireEnregistrementSerie(lu.fichier, NumeroDerriere(Apres(lu.selecteur, 0), lu.numeroParDefaut));
   const std::size_t barre = serie.Intitule.find('|');
   if (lu.selecteur[0] == 'u') return barre == std::string::npos ? std::string() : serie.Intitule.substr(barre + 1);
   return Minuscules(serie.Intitule.substr(0, barre));
@@ -149,14 +153,21 @@ std::string ParSelecteur(const ContexteSeries& contexte, const CodeSerieLu& lu, 
   const bool suiviDeC = lu.selecteur.size() > 1 && lu.selecteur[1] == 'c';
   switch (premier) {
     case 'i':
-    case 'u': return Libelle(lu);
-    case 'c': return entites.TitreCultureCourante();
-    case 'n': return entites.NomCultureCourante();
-    case 'p': return suiviDeC ? entites.TitreCulturePCourante() : entites.NomCulturePCourante();
-    case 'a': return suiviDeC ? std::string() : entites.NomActivite();
+    case 'u':
+      return Libelle(lu);
+    case 'c':
+      return entites.TitreCultureCourante();
+    case 'n':
+      return entites.NomCultureCourante();
+    case 'p':
+      return suiviDeC ? entites.TitreCulturePCourante() : entites.NomCulturePCourante();
+    case 'a':
+      return suiviDeC ? std::string() : entites.NomActivite();
     case 'm':
-    case 's': return Statistique(contexte, lu, code, decimales);
-    default: return ValeurAnnee(lu, decimales);
+    case 's':
+      return Statistique(contexte, lu, code, decimales);
+    default:
+      return ValeurAnnee(lu, decimales);
   }
 }
 

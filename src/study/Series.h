@@ -15,8 +15,8 @@
 #include "frame/LecteurBinaire.h"
 #include "frame/Ports.h"
 #include "frame/Session.h"
-#include "study/EntitesCourantes.h"
 #include "study/Enregistrements.h"
+#include "study/EntitesCourantes.h"
 
 namespace norvane {
 

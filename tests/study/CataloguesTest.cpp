@@ -1,12 +1,11 @@
 // Catalogues: the 118-byte record, and the tree of series they give: head
 // node, groups made once, unused entries skipped, RESSUP.CFG without a head.
-#include "study/Catalogues.h"
-
 #include <gtest/gtest.h>
 
 #include "construction/FichiersEtude.h"
 #include "frame/DossierTemporaire.h"
 #include "frame/Texte.h"
+#include "study/Catalogues.h"
 
 namespace norvane {
 namespace {
@@ -23,7 +22,7 @@ std::vector<EntreeCatalogue> Resultats() {
           Entree("RES-3:0", "[ sans nom ]", "Produits"),
           Entree("RES-4:2", "Prix du lait", "Produits", "Lait"),
           Entree("RES-5:0", "Note", "", "", 0),  // not a series line
-          Entree("RES5", "Sans tiret"),         // no "-"
+          Entree("RES5", "Sans tiret"),          // no "-"
           Entree("RES-17", "EBE")};
 }
 
@@ -52,9 +51,9 @@ TEST_F(ArbreSeries, HeadGroupsOnceAndLeavesKeyedByTheDonFile) {
 }
 
 TEST_F(ArbreSeries, RessupHasNoHeadNode) {
-  construction::EcrireCatalogue(datacfg_ / "RESSUP.CFG",
-                                {Entree("RESSUP", "Compl\xE9ments"), Entree("RESSUP-1:0", "Marge", "Ateliers"),
-                                 Entree("RESSUP-2:0", "Solde")});
+  construction::EcrireCatalogue(
+      datacfg_ / "RESSUP.CFG",
+      {Entree("RESSUP", "Compl\xE9ments"), Entree("RESSUP-1:0", "Marge", "Ateliers"), Entree("RESSUP-2:0", "Solde")});
   EXPECT_EQ(Decrire(RemplirArbreSeries("RESSUP.CFG", datacfg_.Chemin())),
             " > RESSUP-Ateliers [Ateliers] rep\n"
             "RESSUP-Ateliers > RESSUP.DON+RESSUP-1 [Marge] puce\n"

@@ -180,7 +180,9 @@ TEST(ConstructionPng, SignatureHeaderAndEnd) {
 
 class ConstructionJson : public ::testing::Test {
  protected:
-  RapportConstruction Construire(const std::string& texte) { return ConstruireInstallation(Json::parse(texte), racine_.Chemin()); }
+  RapportConstruction Construire(const std::string& texte) {
+    return ConstruireInstallation(Json::parse(texte), racine_.Chemin());
+  }
   test::DossierTemporaire racine_;
 };
 
@@ -232,10 +234,11 @@ TEST_F(ConstructionJson, ADossierFromCataloguesAndRecords) {
 
 TEST_F(ConstructionJson, NotesForTextsCutAndUnknownKeys) {
   const auto rapport = Construire(R"({"organisations": [{"Sigle": "UN SIGLE BEAUCOUP TROP LONG", "Logo": "{racine}/)" +
-                                   std::string(90, 'x') + R"(.png", "Nmo": "faute"}], "_note": "ignorée"})");
-  EXPECT_THAT(rapport.avertissements,
-              ElementsAre("organisation 0, Sigle : « UN SIGLE BEAUCOUP TROP LONG » dépasse 20 caractères, la fin est coupée",
-                          "organisation 0 : clé « Nmo » inconnue, ignorée"));
+                                  std::string(90, 'x') + R"(.png", "Nmo": "faute"}], "_note": "ignorée"})");
+  EXPECT_THAT(
+      rapport.avertissements,
+      ElementsAre("organisation 0, Sigle : « UN SIGLE BEAUCOUP TROP LONG » dépasse 20 caractères, la fin est coupée",
+                  "organisation 0 : clé « Nmo » inconnue, ignorée"));
   ASSERT_EQ(rapport.remarques.size(), 1u);
   EXPECT_THAT(rapport.remarques[0], HasSubstr("racine de l'installation trop longue"));
   std::array<Organisation, 20> organisations;
@@ -264,7 +267,8 @@ TEST_F(ConstructionJson, WrongTypesAndMissingNamesAreErrors) {
 TEST(ExempleInstallation, BuildsCleanAndReadsBack) {
   const char* source = std::getenv("NORVANE_SOURCE");
   const std::filesystem::path racineSource =
-      source ? std::filesystem::path(source) : std::filesystem::path(__FILE__).parent_path().parent_path().parent_path();
+      source ? std::filesystem::path(source)
+             : std::filesystem::path(__FILE__).parent_path().parent_path().parent_path();
   test::DossierTemporaire arbre;
   const auto rapport = ConstruireInstallation(
       ChargerDescription((racineSource / "exemple/etude/installation.json").string()), arbre.Chemin());

@@ -1,8 +1,6 @@
 // The general record: what the builder writes, the reader reads back; the
 // offsets that are easy to get wrong; short and damaged files; the loading of
 // slot 0 with its blank, missing and case-insensitive cases.
-#include "study/DossierGeneral.h"
-
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -12,6 +10,7 @@
 #include "frame/DossierTemporaire.h"
 #include "frame/LecteurBinaire.h"
 #include "frame/Texte.h"
+#include "study/DossierGeneral.h"
 
 namespace norvane {
 namespace {
@@ -69,7 +68,8 @@ TEST(DossierGeneral, WhatTheBuilderWritesIsReadBackFieldForField) {
   DossierGeneral lu;
   ASSERT_TRUE(LireDossierGeneral(octets, lu));
   // Texts come back padded to their width.
-  EXPECT_EQ(lu.CheminDossierTervol, ecrit.CheminDossierTervol + std::string(50 - ecrit.CheminDossierTervol.size(), ' '));
+  EXPECT_EQ(lu.CheminDossierTervol,
+            ecrit.CheminDossierTervol + std::string(50 - ecrit.CheminDossierTervol.size(), ' '));
   EXPECT_EQ(Trim(lu.NomExploitation), "GAEC DU PR\xC9");
   EXPECT_EQ(Trim(lu.Commune), "Saint-Aubin");
   EXPECT_EQ(lu.Reserve190, 7);
@@ -105,7 +105,7 @@ TEST(DossierGeneral, FieldsStandAtTheirOffsets) {
   const std::string o = construction::OctetsDossierGeneral(DossierComplet());
   EXPECT_EQ(Entier16(o, 192), 2025);
   EXPECT_EQ(Entier16(o, 194), 5);
-  EXPECT_EQ(Entier16(o, 196), 1);   // TypeExploitation is 32-bit: its high half is 0
+  EXPECT_EQ(Entier16(o, 196), 1);  // TypeExploitation is 32-bit: its high half is 0
   EXPECT_EQ(Entier16(o, 198), 0);
   EXPECT_EQ(Texte(o, 700, 10), "01/10/2025");
   EXPECT_EQ(Entier16(o, 730), 3);  // NbAssocies right after the 20 bytes of Conseiller

@@ -1,8 +1,6 @@
 // The report of the DOSSIER verb: every field of the general record, the
 // organisations, each series file with its years; damaged files are named
 // with the record where they go wrong and the report goes on.
-#include "study/InspectionDossier.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -11,6 +9,7 @@
 
 #include "construction/FichiersEtude.h"
 #include "frame/DossierTemporaire.h"
+#include "study/InspectionDossier.h"
 
 namespace norvane {
 namespace {
@@ -24,7 +23,9 @@ class Inspection : public ::testing::Test {
   void SetUp() override {
     ASSERT_FALSE(racine_.Chemin().empty());
     DossierGeneral d;
-    d.NomExploitation = "GAEC DES CH\xCA" "NES";
+    d.NomExploitation =
+        "GAEC DES CH\xCA"
+        "NES";
     d.AnneeDebut = 2025;
     d.NbAnEtude = 3;
     d.TypeExploitation = 1;
@@ -64,9 +65,14 @@ TEST_F(Inspection, GeneralRecordOrganisationsAndSeriesInUtf8) {
   // Headings: the year before the study, then the three study years.
   EXPECT_THAT(r, HasSubstr("         2024         2025         2026         2027\n"));
   // Columns: label 22, unit 10, then 13 for each year.
-  EXPECT_THAT(r, HasSubstr("RES-1:0      Produit brut           €         " "          100" "        1\u00A0000"
-                           "        2\u00A0001" "        3\u00A0000\n"));
-  EXPECT_THAT(r, HasSubstr("Prix                   €/l       " "         0,00" "         0,35"));
+  EXPECT_THAT(r, HasSubstr("RES-1:0      Produit brut           €         "
+                           "          100"
+                           "        1\u00A0000"
+                           "        2\u00A0001"
+                           "        3\u00A0000\n"));
+  EXPECT_THAT(r, HasSubstr("Prix                   €/l       "
+                           "         0,00"
+                           "         0,35"));
   EXPECT_THAT(r, HasSubstr("3 enregistrement(s), dont 1 vide(s) non affiché(s)"));
 }
 

@@ -1,12 +1,11 @@
 // ParamLog/Tervol.par: the organisations around the fixed head, the two
 // readings of ParamFinal, and a stream that ends early.
-#include "study/ParamLog.h"
-
 #include <gtest/gtest.h>
 
 #include "construction/FichiersEtude.h"
 #include "frame/DossierTemporaire.h"
 #include "frame/Texte.h"
+#include "study/ParamLog.h"
 
 namespace norvane {
 namespace {

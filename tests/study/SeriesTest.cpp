@@ -1,8 +1,6 @@
 // The series reader on every form of the code: years, labels, statistics and
 // their years, the "@" families, decimals from the record, the two error
 // boxes, and files that are missing, empty, short or garbage.
-#include "study/Series.h"
-
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -12,6 +10,7 @@
 #include "frame/DossierTemporaire.h"
 #include "frame/PortsScriptes.h"
 #include "frame/Texte.h"
+#include "study/Series.h"
 
 namespace norvane {
 namespace {
@@ -96,7 +95,9 @@ TEST_F(LectureSeries, YearBeforeTheRecordOneOrTwoDigits) {
   EXPECT_EQ(Lire("RES.DON+RES-3a17"), "13");
   EXPECT_EQ(Lire("RES.DON+RES-12a17"), "22");
   EXPECT_EQ(Lire("RES.DON+RES-0a17"), "10");  // the year before the study
-  EXPECT_EQ(Lire("RES.DON+RES-1a1"), "1\xA0" "000");
+  EXPECT_EQ(Lire("RES.DON+RES-1a1"),
+            "1\xA0"
+            "000");
   EXPECT_TRUE(messages_.messages.empty());
 }
 
@@ -113,7 +114,9 @@ TEST_F(LectureSeries, DecimalsComeFromTheRecordAndGoBack) {
   EXPECT_EQ(Lire("RES.DON+RES-1a2", -1, 0), "360");
   EXPECT_EQ(decimales_, 0);
   // No ":": the whole field's leading integer, 0 for "RES-3", 5 for "5".
-  EXPECT_EQ(Lire("RES.DON+RES-1a3"), "1\xA0" "235");
+  EXPECT_EQ(Lire("RES.DON+RES-1a3"),
+            "1\xA0"
+            "235");
   EXPECT_EQ(decimales_, 0);
   EXPECT_EQ(Lire("RES.DON+RES-1a4"), "1,50000");
   EXPECT_EQ(decimales_, 5);
@@ -131,10 +134,18 @@ TEST_F(LectureSeries, LabelInLowerCaseAndUnit) {
 }
 
 TEST_F(LectureSeries, StatisticsOverTheStudyYears) {
-  EXPECT_EQ(Lire("RES.DON+RES-som1"), "6\xA0" "000");
-  EXPECT_EQ(Lire("RES.DON+RES-moy1"), "1\xA0" "200");
-  EXPECT_EQ(Lire("RES.DON+RES-min1"), "1\xA0" "000");
-  EXPECT_EQ(Lire("RES.DON+RES-max1"), "1\xA0" "400");
+  EXPECT_EQ(Lire("RES.DON+RES-som1"),
+            "6\xA0"
+            "000");
+  EXPECT_EQ(Lire("RES.DON+RES-moy1"),
+            "1\xA0"
+            "200");
+  EXPECT_EQ(Lire("RES.DON+RES-min1"),
+            "1\xA0"
+            "000");
+  EXPECT_EQ(Lire("RES.DON+RES-max1"),
+            "1\xA0"
+            "400");
   EXPECT_EQ(Lire("RES.DON+RES-mina1"), "2025");
   EXPECT_EQ(Lire("RES.DON+RES-maxa1"), "2029");
   EXPECT_EQ(Lire("RES.DON+RES-moy2"), "146,05");  // (360.25 + 370 + 0 + 0 + 0) / 5
@@ -142,15 +153,22 @@ TEST_F(LectureSeries, StatisticsOverTheStudyYears) {
 
 TEST_F(LectureSeries, OneStudyYearGivesTheFirstYearForEveryStatistic) {
   session_.InfoDossier.NbAnEtude = 1;
-  for (const char* mot : {"som", "moy", "min", "max"}) EXPECT_EQ(Lire(std::string("RES.DON+RES-") + mot + "1"), "1\xA0" "000");
+  for (const char* mot : {"som", "moy", "min", "max"})
+    EXPECT_EQ(Lire(std::string("RES.DON+RES-") + mot + "1"),
+              "1\xA0"
+              "000");
   EXPECT_EQ(Lire("RES.DON+RES-maxa1"), "2025");
   session_.InfoDossier.NbAnEtude = 0;
-  EXPECT_EQ(Lire("RES.DON+RES-moy1"), "1\xA0" "000");  // not divided
+  EXPECT_EQ(Lire("RES.DON+RES-moy1"),
+            "1\xA0"
+            "000");  // not divided
 }
 
 TEST_F(LectureSeries, StudyYearsStopAtColumnThirteen) {
   session_.InfoDossier.NbAnEtude = 40;
-  EXPECT_EQ(Lire("RES.DON+RES-som1"), "20\xA0" "800");  // 1000 + ... + 2200
+  EXPECT_EQ(Lire("RES.DON+RES-som1"),
+            "20\xA0"
+            "800");  // 1000 + ... + 2200
   EXPECT_EQ(Lire("RES.DON+RES-maxa1"), "2037");
 }
 
@@ -162,7 +180,10 @@ TEST_F(LectureSeries, TiesGoToTheFirstYear) {
 }
 
 TEST_F(LectureSeries, SumsAreMadeIn32BitFloats) {
-  EXPECT_EQ(Lire("RES.DON+RES-som7"), "16\xA0" "777\xA0" "216");  // each +1 is lost
+  EXPECT_EQ(Lire("RES.DON+RES-som7"),
+            "16\xA0"
+            "777\xA0"
+            "216");  // each +1 is lost
 }
 
 TEST_F(LectureSeries, ACodeWithoutPlusIsUnknown) {
@@ -172,8 +193,9 @@ TEST_F(LectureSeries, ACodeWithoutPlusIsUnknown) {
   EXPECT_EQ(m.appelant, "CreationDoc");
   EXPECT_EQ(m.titre, "Erreur détectée :  cliquez Fermer pour continuer");
   EXPECT_EQ(m.texte, "Le code \"RES.DON-3a17\" est inconnu de l'interpréteur Norvane.");
-  EXPECT_EQ(m.conseil,
-            "Vous devez modifier en conséquence le modèle de document utilisé pour que cette erreur n'apparaisse plus.");
+  EXPECT_EQ(
+      m.conseil,
+      "Vous devez modifier en conséquence le modèle de document utilisé pour que cette erreur n'apparaisse plus.");
   EXPECT_EQ(m.style, "");
 }
 
@@ -182,7 +204,8 @@ TEST_F(LectureSeries, AWrongStatisticWord) {
   ASSERT_EQ(messages_.messages.size(), 1u);
   const MessageEnregistre& m = messages_.messages[0];
   EXPECT_EQ(m.titre, "Erreur détectée dans le modèle");
-  EXPECT_EQ(m.texte, "Le code \"RES.DON+RES-sum17\" est erroné ( après le - ).\nCette portion de code ne peut être traitée.");
+  EXPECT_EQ(m.texte,
+            "Le code \"RES.DON+RES-sum17\" est erroné ( après le - ).\nCette portion de code ne peut être traitée.");
   EXPECT_EQ(m.conseil, "Modifiez le modèle utilisé pour que ce message d'erreur n'apparaisse plus.");
   EXPECT_EQ(m.style, "");
 }
@@ -212,7 +235,7 @@ TEST_F(LectureSeries, FileNamesIgnoreCaseAndSlotsChooseTheDossier) {
 
 TEST_F(LectureSeries, FamiliesOfTheEntityInHand) {
   EXPECT_EQ(Lire("@c4-1a"), "72,5");  // Cult1.don, record before the "-"
-  EXPECT_EQ(codeApres_, "4-1a");       // "@" and the letter are gone
+  EXPECT_EQ(codeApres_, "4-1a");      // "@" and the letter are gone
   EXPECT_EQ(Lire("@c4-i"), "rendement");
   EXPECT_EQ(Lire("@c-i4"), "rendement");
   EXPECT_EQ(Lire("@c1-2a", -1, 0), "0");

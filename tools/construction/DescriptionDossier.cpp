@@ -31,9 +31,11 @@ std::string DescriptionProjetDe(ObjetJson& o) {
 }
 
 void AssociesDe(ObjetJson& o, DossierGeneral& d) {
-  if (const Json* exploitant = o.Valeur("Exploitant")) PersonneDe(*exploitant, o.Lieu() + ", Exploitant", o.Notes(), d, 0);
+  if (const Json* exploitant = o.Valeur("Exploitant"))
+    PersonneDe(*exploitant, o.Lieu() + ", Exploitant", o.Notes(), d, 0);
   const auto associes = o.Elements("Associes");
-  if (associes.size() > 10) o.Notes().avertissements.push_back(o.Lieu() + " : plus de 10 associés, les suivants sont ignorés");
+  if (associes.size() > 10)
+    o.Notes().avertissements.push_back(o.Lieu() + " : plus de 10 associés, les suivants sont ignorés");
   for (std::size_t i = 0; i < std::min<std::size_t>(associes.size(), 10); ++i) {
     PersonneDe(*associes[i], o.Lieu() + ", associé " + std::to_string(i + 1), o.Notes(), d, i + 1);
   }
@@ -42,7 +44,8 @@ void AssociesDe(ObjetJson& o, DossierGeneral& d) {
 
 void ModeComDe(ObjetJson& o, DossierGeneral& d) {
   const auto produits = o.Elements("ModeCom");
-  if (produits.size() > 6) o.Notes().avertissements.push_back(o.Lieu() + " : plus de 6 produits, les suivants sont ignorés");
+  if (produits.size() > 6)
+    o.Notes().avertissements.push_back(o.Lieu() + " : plus de 6 produits, les suivants sont ignorés");
   for (std::size_t i = 0; i < std::min<std::size_t>(produits.size(), 6); ++i) {
     ObjetJson p(*produits[i], o.Lieu() + ", produit " + std::to_string(i + 1), o.Notes());
     d.ModeCom[i + 1] = {p.Texte("Produit", 40), p.Texte("Mode", 40)};
@@ -59,8 +62,8 @@ std::string Nombre(float valeur, const std::string& lieu, Journal& journal) {
   return std::to_string(static_cast<long>(std::lround(valeur)));
 }
 
-void EcrireSeriesDe(const Json* description, const std::string& chemin, const std::string& lieu,
-                    const Modeles& modeles, Journal& journal) {
+void EcrireSeriesDe(const Json* description, const std::string& chemin, const std::string& lieu, const Modeles& modeles,
+                    Journal& journal) {
   if (description != nullptr) EcrireSeries(chemin, SeriesDe(*description, lieu, modeles, journal));
 }
 
@@ -187,8 +190,9 @@ void PlanFinancement(ObjetJson& o, const std::string& dossier) {
   std::vector<LignePlanFinancement> lignes;
   for (const Json* element : o.Elements("plan_financement")) {
     ObjetJson l(*element, o.Lieu() + ", plan " + std::to_string(lignes.size() + 1), o.Notes());
-    lignes.push_back({l.Flottant("NumEntree", static_cast<float>(lignes.size() + 1)), l.Texte("ObjetInvestissement", 50),
-                      l.Flottant("Pourcentage"), l.Flottant("MontantPlan"), l.Texte("ObjetFinancement", 50)});
+    lignes.push_back({l.Flottant("NumEntree", static_cast<float>(lignes.size() + 1)),
+                      l.Texte("ObjetInvestissement", 50), l.Flottant("Pourcentage"), l.Flottant("MontantPlan"),
+                      l.Texte("ObjetFinancement", 50)});
     l.Terminer();
   }
   if (lignes.size() > kLignesPlan) o.Notes().avertissements.push_back(o.Lieu() + " : plus de 20 lignes de plan");
@@ -249,8 +253,8 @@ void ConstruireDossier(const Json& description, const std::string& repDossiers, 
   ObjetJson d(description, "dossier " + nom, journal);
   d.Valeur("nom");
   const Json* general = d.Valeur("general");
-  const std::string dossier =
-      CreerDossierEtude(repDossiers, nom, DossierGeneralDe(general ? *general : ObjetVide(), d.Lieu() + ", general", journal));
+  const std::string dossier = CreerDossierEtude(
+      repDossiers, nom, DossierGeneralDe(general ? *general : ObjetVide(), d.Lieu() + ", general", journal));
   for (const Json* fichier : d.Elements("series")) {
     ObjetJson f(*fichier, d.Lieu() + ", séries", journal);
     const std::string nomFichier = f.TexteUtf8("fichier");

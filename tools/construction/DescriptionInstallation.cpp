@@ -62,7 +62,8 @@ void Images(ObjetJson& o, const std::string& racine) {
 }
 
 std::string NomDe(const Json& element, const char* cle) {
-  return element.is_object() && element.contains(cle) && element[cle].is_string() ? element[cle].get<std::string>() : "";
+  return element.is_object() && element.contains(cle) && element[cle].is_string() ? element[cle].get<std::string>()
+                                                                                  : "";
 }
 
 // Catalogues are written to Datacfg/ and, like gabarits, kept as models.
@@ -76,8 +77,12 @@ void CataloguesEtGabarits(ObjetJson& o, const std::string& racine, Modeles& mode
     ObjetJson c(*element, "catalogue " + NomDe(*element, "fichier"), o.Notes());
     const std::string fichier = c.TexteUtf8("fichier");
     std::vector<SerieModele> entrees = SeriesModele(c);
-    EntreeCatalogue tete{fichier.substr(0, fichier.rfind('.')), c.Texte("Intitule", 22), "", "",
-                         static_cast<int16_t>(c.Booleen("vide") ? 0 : 1), 0};
+    EntreeCatalogue tete{fichier.substr(0, fichier.rfind('.')),
+                         c.Texte("Intitule", 22),
+                         "",
+                         "",
+                         static_cast<int16_t>(c.Booleen("vide") ? 0 : 1),
+                         0};
     std::vector<EntreeCatalogue> enregistrements{tete};
     for (const SerieModele& s : entrees) enregistrements.push_back(s.entree);
     EcrireCatalogue(Chemin(racine, "Datacfg/" + fichier), enregistrements);
@@ -126,7 +131,8 @@ RapportConstruction ConstruireInstallation(const Json& description, const std::s
   Modeles modeles;
   CataloguesEtGabarits(o, racine, modeles);
   DonneesIni(o, racine);
-  for (const Json* dossier : o.Elements("dossiers")) ConstruireDossier(*dossier, Chemin(racine, "Dossier"), modeles, journal);
+  for (const Json* dossier : o.Elements("dossiers"))
+    ConstruireDossier(*dossier, Chemin(racine, "Dossier"), modeles, journal);
   o.Terminer();
   return {std::move(journal.avertissements), std::move(journal.remarques)};
 }
@@ -137,7 +143,8 @@ Json ChargerDescription(const std::string& chemin) {
   for (const char* cle : {"catalogues", "gabarits", "dossiers"}) {
     if (!description.contains(cle) || !description[cle].is_array()) continue;
     for (Json& element : description[cle]) {
-      if (element.is_string()) element = ChargerDescription((fichier.parent_path() / element.get<std::string>()).string());
+      if (element.is_string())
+        element = ChargerDescription((fichier.parent_path() / element.get<std::string>()).string());
     }
   }
   return description;

@@ -30,7 +30,7 @@ void SeriesDuModele(ObjetJson& o, const Modeles& modeles, std::vector<SerieDonne
     if (Trim(s.entree.Intitule) != kSansNom) {
       serie.CodeSerie = s.entree.CodeCatalogue;
       serie.Intitule = LargeurVerifiee(s.entree.Intitule + (s.unite.empty() ? "" : "|" + s.unite), 22,
-                                  o.Lieu() + ", série " + code, o.Notes());
+                                       o.Lieu() + ", série " + code, o.Notes());
       serie.Valeur = parCode.Flottants<14>(code.c_str());
     }
     Placer(series, NumeroDeCode(code), std::move(serie));

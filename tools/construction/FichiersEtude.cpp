@@ -79,8 +79,7 @@ std::string OctetsParamLog(const std::array<Organisation, 20>& organisations, in
   return octets + finale.Octets();
 }
 
-void EcrireParamLog(const std::string& chemin, const std::array<Organisation, 20>& organisations,
-                    int16_t paramFinal) {
+void EcrireParamLog(const std::string& chemin, const std::array<Organisation, 20>& organisations, int16_t paramFinal) {
   EcrireOctets(chemin, OctetsParamLog(organisations, paramFinal));
 }
 

@@ -135,7 +135,8 @@ std::string OctetsLignePlan(const LignePlanFinancement& l) {
 }
 
 void EcrirePlanFinancement(const std::string& chemin, const std::vector<LignePlanFinancement>& lignes) {
-  std::vector<LignePlanFinancement> plan(lignes.begin(), lignes.begin() + static_cast<long>(std::min(lignes.size(), kLignesPlan)));
+  std::vector<LignePlanFinancement> plan(lignes.begin(),
+                                         lignes.begin() + static_cast<long>(std::min(lignes.size(), kLignesPlan)));
   plan.resize(kLignesPlan);
   EcrireEnregistrements(chemin, plan, OctetsLignePlan);
 }

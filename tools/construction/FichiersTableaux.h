@@ -16,11 +16,11 @@ namespace norvane::construction {
 
 // cult.clt, annual crops, records of 1674 bytes.
 struct CultureAnnuelle {
-  float NumCulture = 0;          // names the series file "Cult" + number + ".don"
-  std::string NomCulture;        // 23
-  char UniteRendement = '0';     // '0' quintals, '1' tonnes, '2' kilograms, '3' unit
-  int16_t Derobee = 0;           // not 0 for a catch crop
-  int16_t TypeCulture = 1;       // 1 sale, 2 sale with feed taken out, 3 fodder, 4 market garden; < 1 ends the list
+  float NumCulture = 0;       // names the series file "Cult" + number + ".don"
+  std::string NomCulture;     // 23
+  char UniteRendement = '0';  // '0' quintals, '1' tonnes, '2' kilograms, '3' unit
+  int16_t Derobee = 0;        // not 0 for a catch crop
+  int16_t TypeCulture = 1;    // 1 sale, 2 sale with feed taken out, 3 fodder, 4 market garden; < 1 ends the list
   // Arrays of eleven values, exercise 0 to 10, by lower-case value name
   // ("rendement", "assolement", "margeglobale"...: see kTableauxCulture).
   std::map<std::string, std::array<float, 11>> Valeurs;
@@ -33,13 +33,12 @@ struct TableauCulture {
 };
 // The value names of a crop record and where their eleven floats start.
 constexpr TableauCulture kTableauxCulture[] = {
-    {"rendement", 42},     {"assolement", 86},    {"qterecolte", 130},   {"qtepreleve", 174},
-    {"prixunitaire", 218}, {"autreproduit", 262}, {"primeetdiv", 306},   {"produitunit", 350},
-    {"chargeunit", 394},   {"margeunit", 438},    {"margeglobale", 482}, {"stockfin", 526},
-    {"qtevendue", 570},    {"qteachat", 614},     {"varstock", 658},     {"valeurstock", 706},
-    {"prixmoyen", 750},    {"prixvente", 794},    {"prixachat", 838},    {"prixcession", 882},
-    {"varinv", 1014},      {"engrais", 1058},     {"semence", 1102},     {"traitement", 1146},
-    {"travaux", 1190},     {"taxe1", 1234},       {"autrecharge", 1278}, {"creance", 1630},
+    {"rendement", 42},     {"assolement", 86},    {"qterecolte", 130},  {"qtepreleve", 174},  {"prixunitaire", 218},
+    {"autreproduit", 262}, {"primeetdiv", 306},   {"produitunit", 350}, {"chargeunit", 394},  {"margeunit", 438},
+    {"margeglobale", 482}, {"stockfin", 526},     {"qtevendue", 570},   {"qteachat", 614},    {"varstock", 658},
+    {"valeurstock", 706},  {"prixmoyen", 750},    {"prixvente", 794},   {"prixachat", 838},   {"prixcession", 882},
+    {"varinv", 1014},      {"engrais", 1058},     {"semence", 1102},    {"traitement", 1146}, {"travaux", 1190},
+    {"taxe1", 1234},       {"autrecharge", 1278}, {"creance", 1630},
 };
 // Position of a value name's array, or -1 for a name that is none of them.
 long PositionTableauCulture(const std::string& nom);
@@ -63,19 +62,19 @@ void EcrireCulturesPerennes(const std::string& chemin, const std::vector<Culture
 
 // Immo.imm (fixed assets) and Sub.sub (grants), records of 3096 bytes.
 struct Immobilisation {
-  float Nouveau = 0;             // 0 existing, 1 new item of the plan
-  float TypeImmo = 0;            // assets: 0 F, 1 A, 2 C, 3 I, 4 M, 5 S, 6 D; grants: 0 "Lin.", other "A terme"
-  std::string Libelle;           // 40
-  std::string DateRealisation;   // 10
+  float Nouveau = 0;            // 0 existing, 1 new item of the plan
+  float TypeImmo = 0;           // assets: 0 F, 1 A, 2 C, 3 I, 4 M, 5 S, 6 D; grants: 0 "Lin.", other "A terme"
+  std::string Libelle;          // 40
+  std::string DateRealisation;  // 10
   float Montant = 0;
   float Duree = 0;
-  float TypeAmort = 0;           // 0 Lin., 1 Dég., 2 Dér., 3 Lib.
-  std::string DateRevente;       // 10; DateEcheance in Sub.sub
+  float TypeAmort = 0;      // 0 Lin., 1 Dég., 2 Dér., 3 Lib.
+  std::string DateRevente;  // 10; DateEcheance in Sub.sub
   float MontantRevente = 0;
   float NumEntreePlan = 0;
   float Differe = 0;
   float LSM = 0;
-  double PlusValue1 = 0;         // the two halves of the capital gain
+  double PlusValue1 = 0;  // the two halves of the capital gain
   double PlusValue2 = 0;
 };
 constexpr std::size_t kLongueurImmobilisation = 3096;
@@ -84,10 +83,10 @@ void EcrireImmobilisations(const std::string& chemin, const std::vector<Immobili
 
 // Emprunt.emp, loans, records of 1096 bytes.
 struct Emprunt {
-  float Nouveau = 0;             // 0 existing, 1 new, 2 a category of its own
-  int16_t TypeEmprunt = 0;       // 0 F, 1 M, 2 CT
-  std::string LibelleEmprunt;    // 40
-  int16_t PretMtsJa = 0;         // -1 for an MTS-JA loan
+  float Nouveau = 0;           // 0 existing, 1 new, 2 a category of its own
+  int16_t TypeEmprunt = 0;     // 0 F, 1 M, 2 CT
+  std::string LibelleEmprunt;  // 40
+  int16_t PretMtsJa = 0;       // -1 for an MTS-JA loan
   std::string DateRealisationEmprunt;
   std::string DateFin;
   float MontantEmprunt = 0;
@@ -112,7 +111,7 @@ struct LignePlanFinancement {
   std::string ObjetInvestissement;  // 50; blank: the entry is unused
   float Pourcentage = 0;
   float MontantPlan = 0;
-  std::string ObjetFinancement;     // 50
+  std::string ObjetFinancement;  // 50
 };
 constexpr std::size_t kLongueurLignePlan = 116;
 constexpr std::size_t kLignesPlan = 20;
