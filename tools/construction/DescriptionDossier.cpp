@@ -247,8 +247,8 @@ DossierGeneral DossierGeneralDe(const Json& description, const std::string& lieu
 
 void ConstruireDossier(const Json& description, const std::string& repDossiers, const Modeles& modeles,
                        Journal& journal) {
-  ObjetJson o(description, "dossier", journal);
-  const std::string nom = o.TexteUtf8("nom");
+  // The name first: it names the dossier in every note.
+  const std::string nom = ObjetJson(description, "dossier", journal).TexteUtf8("nom");
   if (nom.empty()) throw ErreurDescription("dossier : « nom » (par exemple \"DUPONT.TVL\") manque");
   ObjetJson d(description, "dossier " + nom, journal);
   d.Valeur("nom");
