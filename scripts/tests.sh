@@ -4,7 +4,7 @@
 set -euo pipefail
 racine="$(cd "$(dirname "$0")/.." && pwd)"
 "$racine/scripts/dependances.sh"
-"$racine/scripts/construire.sh" build
+"$racine/scripts/construire.sh" build -DNORVANE_TESTS=ON
 ctest --test-dir "$racine/build" --output-on-failure -j"$(nproc)"
 "$racine/scripts/construire.sh" build-sanitizers -DCMAKE_BUILD_TYPE=Debug -DNORVANE_SANITIZE=ON -DNORVANE_BENCH=OFF
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \

@@ -25,25 +25,38 @@ constexpr std::array<std::string_view, 34> kARetirer = {
 // Bookmarks of Word ("{\*\bkmkstart DDE_LINK1}") once the list has run.
 constexpr std::array<std::string_view, 3> kSignets = {"kmkstartDDE_LINK", "bkmkendDDE_LINK", "kmkendDDE_LINK"};
 
+// Removes every occurrence of `marque` together with the digits behind it,
+// as repeated EnleverMarque calls do, in one pass: an occurrence that a
+// removal brings together across the seam is caught as it forms. Returns
+// true when something went.
+bool RetirerToutes(std::string& texte, std::string_view marque, bool avecChiffres) {
+  std::string sortie;
+  sortie.reserve(texte.size());
+  bool retire = false;
+  for (std::size_t i = 0; i < texte.size(); ++i) {
+    sortie.push_back(texte[i]);
+    if (!FinitPar(sortie, marque)) continue;
+    sortie.resize(sortie.size() - marque.size());
+    while (avecChiffres && i + 1 < texte.size() && std::isdigit(static_cast<unsigned char>(texte[i + 1]))) ++i;
+    retire = true;
+  }
+  if (retire) texte.swap(sortie);
+  return retire;
+}
+
+// Word's bookmarks, by priority, until none is left; then the bare "kmk"
+// remains, which may in turn bring a bookmark together.
 void RetirerSignets(std::string& texte) {
   while (texte.find("kmk") != std::string::npos) {
     bool retire = false;
     for (auto signet : kSignets) {
-      if (EnleverMarque(texte, signet) == 1) {
-        retire = true;
-        break;
-      }
+      if ((retire = RetirerToutes(texte, signet, true))) break;
     }
-    if (!retire) texte.erase(texte.find("kmk"), 3);
+    if (!retire) RetirerToutes(texte, "kmk", false);
   }
 }
 
-void RetirerLiensOle(std::string& texte) {
-  // A bare "endOLE" with no "_LINK" behind it is left alone.
-  while (texte.find("endOLE") != std::string::npos) {
-    if (EnleverMarque(texte, "endOLE_LINK") != 1) break;
-  }
-}
+void RetirerLiensOle(std::string& texte) { RetirerToutes(texte, "endOLE_LINK", true); }
 
 }  // namespace
 

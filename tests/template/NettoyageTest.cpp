@@ -67,3 +67,18 @@ TEST(EnleverMarque, UnChiffreParAppel) {
 
 }  // namespace
 }  // namespace norvane
+
+namespace norvane::test {
+namespace {
+
+// Thousands of marks are cleaned in one sweep each, not one search a mark.
+TEST(NettoyageMasse, ManyBookmarkRemainsAreCleaned) {
+  std::string code;
+  for (int i = 0; i < 100000; ++i) code += "kmk{\\*\\bkmkstart DDE_LINK12}endOLE_LINK3";
+  code += "nomExploit";
+  NettoyerCode(code);
+  EXPECT_EQ(code, "nomExploit");
+}
+
+}  // namespace
+}  // namespace norvane::test

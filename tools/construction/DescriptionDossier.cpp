@@ -25,7 +25,8 @@ std::string DescriptionProjetDe(ObjetJson& o) {
   std::string lignes;
   for (const Json& ligne : *v) {
     if (!ligne.is_string()) throw ErreurDescription(o.Lieu() + " : « DescriptionProjet » : une liste de textes");
-    lignes += (lignes.empty() ? "" : "\r") + ligne.get<std::string>();
+    // The parent product's multi-line box keeps its lines apart with CR LF.
+    lignes += (lignes.empty() ? "" : "\r\n") + ligne.get<std::string>();
   }
   return TexteEtude(lignes, 500, o.Lieu() + ", DescriptionProjet", o.Notes());
 }
