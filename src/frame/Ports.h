@@ -7,6 +7,9 @@
 
 namespace norvane {
 
+// Title of the common box for a fault met in a template or a file.
+inline constexpr char kTitreErreurDetectee[] = "Erreur détectée :  cliquez Fermer pour continuer";
+
 enum class Boutons { Ok, OuiNon, OuiNonAnnuler };
 enum class Icone { Aucune, Information, Question, Exclamation, Critique };
 enum class Reponse { Ok, Oui, Non, Annuler };

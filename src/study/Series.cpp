@@ -76,7 +76,7 @@ CodeSerieLu AnalyserCodeFamille(const ContexteSeries& contexte, std::string& cod
 
 void ErreurCodeInconnu(const ContexteSeries& contexte, const std::string& code) {
   contexte.messages.AfficherMessage(
-      kAppelant, "Erreur détectée :  cliquez Fermer pour continuer",
+      kAppelant, kTitreErreurDetectee,
       "Le code \"" + Cp1252VersUtf8(code) + "\" est inconnu de l'interpréteur Norvane.",
       "Vous devez modifier en conséquence le modèle de document utilisé pour que cette erreur n'apparaisse plus.", "");
 }

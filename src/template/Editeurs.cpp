@@ -6,7 +6,6 @@
 namespace norvane {
 namespace {
 
-constexpr char kTitreErreur[] = "Erreur détectée :  cliquez Fermer pour continuer";
 constexpr char kAucunEditeur[] = "Aucun traitement de texte n'est actuellement lié à Norvane !";
 
 }  // namespace
@@ -22,7 +21,7 @@ int IndexEditeur(const Options& options) {
 void OuvrirDocument(Generation& g, const std::string& chemin) {
   const int editeur = IndexEditeur(g.session.options);
   if (editeur == 0) {
-    g.messages.AfficherMessage("CreationDoc", kTitreErreur, kAucunEditeur,
+    g.messages.AfficherMessage("CreationDoc", kTitreErreurDetectee, kAucunEditeur,
                                "Sélectionnez un traitement de texte dans \"PROPRIETES\" puis cliquez à nouveau sur "
                                "\"DOCUMENT\" -> \"OUVRIR\".",
                                "");
@@ -34,7 +33,7 @@ void OuvrirDocument(Generation& g, const std::string& chemin) {
 void SauvegarderParEditeur(Generation& g, const std::string& chemin, const std::string& conseil) {
   const int editeur = IndexEditeur(g.session.options);
   if (editeur == 0) {
-    g.messages.AfficherMessage("CreationDoc", kTitreErreur, kAucunEditeur, conseil, "");
+    g.messages.AfficherMessage("CreationDoc", kTitreErreurDetectee, kAucunEditeur, conseil, "");
     return;
   }
   if (g.editeur) g.editeur->SauvegarderSous(false, editeur, chemin);

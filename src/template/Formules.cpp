@@ -19,7 +19,7 @@ constexpr int16_t kDecimalesAutomatiques = 7;
 // A malformed code: the box, and the placeholder that stands in the result.
 std::string CodeMalRenseigne(Generation& generation, const std::string& code, const std::string& manque) {
   generation.messages.AfficherMessage(
-      "Formules", "Erreur détectée :  cliquez Fermer pour continuer",
+      "Formules", kTitreErreurDetectee,
       "La portion de code \"" + Cp1252VersUtf8(code) + "\" dans le modèle est mal renseignée : " + manque,
       "Modifier le modèle de document pour que l'erreur n'apparaisse plus.", "");
   return Utf8VersCp1252("<Code Mal renseigné : valeur non calculée>");

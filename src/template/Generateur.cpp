@@ -17,48 +17,20 @@ namespace norvane {
 namespace {
 
 constexpr std::size_t kLimiteCollage = 20000;
-constexpr char kTitreErreur[] = "Erreur détectée :  cliquez Fermer pour continuer";
 
-// What the main loop does after one round on the piece in hand.
-enum class Suite { PieceSuivante, Coller, MemePiece, Fin };
-
-class Creation {
+class Creation : public ParcoursMorceaux {
  public:
-  Creation(Generation& g, ModeleDecoupe decoupe, const std::string& cible)
-      : g_(g), morceaux_(std::move(decoupe.morceaux)), progression_(g.progression, decoupe.nbCodes, cible) {}
-
-  std::string Executer() {
-    std::size_t i = 0;
-    morceau_.Charger(std::move(morceaux_[0]));
-    for (;;) {
-      Suite suite = Tour(i);
-      if (suite == Suite::Fin) break;
-      if (suite == Suite::MemePiece) continue;
-      if (++i >= morceaux_.size()) break;
-      if (suite == Suite::Coller) {
-        morceau_.Coller(morceaux_[i]);
-      } else {
-        morceau_.Charger(std::move(morceaux_[i]));
-      }
-      std::string().swap(morceaux_[i]);
-    }
-    return std::move(sortie_.texte);
-  }
-
-  SuiviProgression& Progression() { return progression_; }
+  using ParcoursMorceaux::ParcoursMorceaux;
 
  private:
-  bool Dernier(std::size_t i) const { return i + 1 >= morceaux_.size(); }
-
-  Suite Tour(std::size_t i) {
+  Suite Tour(std::size_t i) override {
     CouperParagrapheCache();
     if (proprietes_.Passer(morceau_, sortie_)) return Suite::PieceSuivante;
     EtendreTables();
     ReparerSignets();
     const std::size_t debut = morceau_.Trouver(debutCode_);
     if (debut == std::string::npos) return SansCode(i);
-    sortie_.Ecrire(std::string_view(morceau_.Texte()).substr(morceau_.Debut(), debut - morceau_.Debut()), false);
-    morceau_.Avancer(debut);
+    EcrireJusqua(debut);
     const std::size_t fin = morceau_.Trouver(finCode_);
     if (fin == std::string::npos) return SansFin(i);
     std::string code = morceau_.Texte().substr(debut, fin + 2 - debut);
@@ -157,12 +129,6 @@ class Creation {
     return Suite::PieceSuivante;
   }
 
-  Generation& g_;
-  std::vector<std::string> morceaux_;
-  MorceauCourant morceau_;
-  Sortie sortie_;
-  SuiviProgression progression_;
-  PassageProprietes proprietes_;
   std::size_t pieceSignalee_ = std::string::npos;
   RechercheMemorisee debutCode_{"#tvl(", true};
   RechercheMemorisee finCode_{")#", false};
@@ -194,7 +160,7 @@ bool EcrireResultat(Generation& g, const std::string& chemin, const std::string&
   fichier.write(texte.data(), static_cast<std::streamsize>(texte.size()));
   fichier.close();
   if (fichier) return true;
-  g.messages.AfficherMessage("CreationDoc", kTitreErreur,
+  g.messages.AfficherMessage("CreationDoc", kTitreErreurDetectee,
                              "Le document résultat \"" + chemin + "\" ne peut pas être écrit.",
                              "Vérifiez que son répertoire existe, que vous pouvez y écrire et que le document n'est "
                              "pas ouvert en lecture seule.",
@@ -205,7 +171,7 @@ bool EcrireResultat(Generation& g, const std::string& chemin, const std::string&
 std::optional<std::string> LireModele(Generation& g, const std::string& modele) {
   auto contenu = LireFichier(modele);
   if (!contenu) {
-    g.messages.AfficherMessage("CreationDoc", kTitreErreur,
+    g.messages.AfficherMessage("CreationDoc", kTitreErreurDetectee,
                                "Le modèle de document \"" + modele + "\" est introuvable ou illisible.",
                                "Vérifiez le chemin du modèle choisi pour la création.", "");
   }

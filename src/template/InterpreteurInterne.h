@@ -18,7 +18,7 @@ namespace norvane {
 inline constexpr std::string_view kMarqueDebut = "#tvl(";
 inline constexpr std::string_view kMarqueFin = ")#";
 inline constexpr std::string_view kAppelant = "CreationDoc";
-inline constexpr std::string_view kTitreErreur = "Erreur détectée :  cliquez Fermer pour continuer";
+inline constexpr std::string_view kTitreErreur = kTitreErreurDetectee;
 inline constexpr std::string_view kConseilModifier = "Modifier le modèle de document pour que l'erreur n'apparaisse plus.";
 inline constexpr std::string_view kAideSerie =
     "une donnée issue de Tervol ou un calcul de plusieurs données de Tervol.";

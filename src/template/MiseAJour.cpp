@@ -14,43 +14,22 @@ namespace norvane {
 namespace {
 
 constexpr std::size_t kLimiteCollageChamp = 200000;
-constexpr char kTitreErreur[] = "Erreur détectée :  cliquez Fermer pour continuer";
 
-class MiseAJour {
+class MiseAJour : public ParcoursMorceaux {
  public:
-  MiseAJour(Generation& g, ModeleDecoupe decoupe, const std::string& cible)
-      : g_(g), morceaux_(std::move(decoupe.morceaux)), progression_(g.progression, decoupe.nbCodes, cible) {}
-
-  std::string Executer() {
-    std::size_t i = 0;
-    morceau_.Charger(std::move(morceaux_[0]));
-    for (;;) {
-      const bool coller = Tour(i);
-      if (++i >= morceaux_.size()) break;
-      if (coller) {
-        morceau_.Coller(morceaux_[i]);
-      } else {
-        morceau_.Charger(std::move(morceaux_[i]));
-      }
-      std::string().swap(morceaux_[i]);
-    }
-    return std::move(sortie_.texte);
-  }
-
+  using ParcoursMorceaux::ParcoursMorceaux;
   int32_t NbChamps() const { return nbChamps_; }
-  SuiviProgression& Progression() { return progression_; }
 
  private:
-  // One field a piece; returns true when the piece must be glued to the next.
-  bool Tour(std::size_t i) {
-    if (proprietes_.Passer(morceau_, sortie_)) return false;
+  // One field a piece: what stands behind it in the piece is not written.
+  Suite Tour(std::size_t i) override {
+    if (proprietes_.Passer(morceau_, sortie_)) return Suite::PieceSuivante;
     const std::size_t debut = morceau_.Trouver(marqueDebut_);
     if (debut == std::string::npos) {
       sortie_.Ecrire(morceau_.Reste(), true);
-      return false;
+      return Suite::PieceSuivante;
     }
-    sortie_.Ecrire(std::string_view(morceau_.Texte()).substr(morceau_.Debut(), debut - morceau_.Debut()), false);
-    morceau_.Avancer(debut);
+    EcrireJusqua(debut);
     const std::size_t code = morceau_.Trouver(marqueCode_);
     // The end mark is looked for behind the code's start, so that a ")#" in
     // the shown value cannot cut the field short.
@@ -62,25 +41,19 @@ class MiseAJour {
     progression_.CodeTraite();
     sortie_.Ecrire(champ + "}", true);
     ++nbChamps_;
-    return false;
+    return Suite::PieceSuivante;
   }
 
   // A field whose code has not ended in this piece: glued on while the piece
   // is under 200000 characters, else written as it stands.
-  bool Incomplet(std::size_t i) {
-    if (i + 1 >= morceaux_.size() || morceau_.Reste().size() >= kLimiteCollageChamp) {
+  Suite Incomplet(std::size_t i) {
+    if (Dernier(i) || morceau_.Reste().size() >= kLimiteCollageChamp) {
       sortie_.Ecrire(morceau_.Reste(), true);
-      return false;
+      return Suite::PieceSuivante;
     }
-    return true;
+    return Suite::Coller;
   }
 
-  Generation& g_;
-  std::vector<std::string> morceaux_;
-  MorceauCourant morceau_;
-  Sortie sortie_;
-  SuiviProgression progression_;
-  PassageProprietes proprietes_;
   int32_t nbChamps_ = 0;
   RechercheMemorisee marqueDebut_{"{\\v #debdata#}", true};
   RechercheMemorisee marqueCode_{"{\\v #findata=#tvl(", true};
@@ -93,7 +66,7 @@ ResultatDocument MettreAJourDocument(Generation& g, const std::string& document,
                                      bool sansOuvrir) {
   ResultatDocument r;
   if (FinitPar(document, ".doc", true)) {
-    g.messages.AfficherMessage("MiseAJour", kTitreErreur,
+    g.messages.AfficherMessage("MiseAJour", kTitreErreurDetectee,
                                "La mise à jour d'un document MS Word demande sa conversion au RTF par le traitement "
                                "de texte.",
                                "Enregistrez d'abord le document au format RTF, puis mettez à jour cette copie.", "");
@@ -101,7 +74,7 @@ ResultatDocument MettreAJourDocument(Generation& g, const std::string& document,
   }
   auto contenu = LireFichier(document);
   if (!contenu) {
-    g.messages.AfficherMessage("MiseAJour", kTitreErreur,
+    g.messages.AfficherMessage("MiseAJour", kTitreErreurDetectee,
                                "Le document \"" + document + "\" est introuvable ou illisible.",
                                "Vérifiez le chemin du document à mettre à jour.", "");
     return r;

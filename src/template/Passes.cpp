@@ -45,6 +45,29 @@ void SuiviProgression::Terminer(const std::string& texte) {
   port_.DefinirTexte(texte);
 }
 
+std::string ParcoursMorceaux::Executer() {
+  std::size_t i = 0;
+  morceau_.Charger(std::move(morceaux_[0]));
+  for (;;) {
+    const Suite suite = Tour(i);
+    if (suite == Suite::Fin) break;
+    if (suite == Suite::MemePiece) continue;
+    if (++i >= morceaux_.size()) break;
+    if (suite == Suite::Coller) {
+      morceau_.Coller(morceaux_[i]);
+    } else {
+      morceau_.Charger(std::move(morceaux_[i]));
+    }
+    std::string().swap(morceaux_[i]);
+  }
+  return std::move(sortie_.texte);
+}
+
+void ParcoursMorceaux::EcrireJusqua(std::size_t position) {
+  sortie_.Ecrire(std::string_view(morceau_.Texte()).substr(morceau_.Debut(), position - morceau_.Debut()), false);
+  morceau_.Avancer(position);
+}
+
 std::string CheminAbrege(const std::string& chemin) {
   if (chemin.size() < 33) return chemin;
   return chemin.substr(0, 3) + "..." + chemin.substr(chemin.size() - 30);

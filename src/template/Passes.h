@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "template/Generation.h"
 #include "template/Morceaux.h"
@@ -46,6 +48,36 @@ class SuiviProgression {
   PortProgression& port_;
   int32_t nbCodes_;
   int32_t nbTraites_ = 0;
+};
+
+// What the walk over the pieces does after one round on the piece in hand.
+enum class Suite { PieceSuivante, Coller, MemePiece, Fin };
+
+// The walk over the pieces of a template or document, shared by creation and
+// update: each round on the piece in hand says what comes next.
+class ParcoursMorceaux {
+ public:
+  ParcoursMorceaux(Generation& generation, ModeleDecoupe decoupe, const std::string& cible)
+      : g_(generation), morceaux_(std::move(decoupe.morceaux)), progression_(generation.progression, decoupe.nbCodes, cible) {}
+  virtual ~ParcoursMorceaux() = default;
+
+  // Runs the rounds to the last piece and gives the text written.
+  std::string Executer();
+  SuiviProgression& Progression() { return progression_; }
+
+ protected:
+  virtual Suite Tour(std::size_t i) = 0;
+  bool Dernier(std::size_t i) const { return i + 1 >= morceaux_.size(); }
+  // Writes the piece from its start up to `position`, with no line end, and
+  // makes the piece begin there.
+  void EcrireJusqua(std::size_t position);
+
+  Generation& g_;
+  std::vector<std::string> morceaux_;
+  MorceauCourant morceau_;
+  Sortie sortie_;
+  SuiviProgression progression_;
+  PassageProprietes proprietes_;
 };
 
 // The target path as the progress display shows it: whole under 33

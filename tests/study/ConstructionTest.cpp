@@ -205,7 +205,7 @@ TEST_F(ConstructionJson, ADossierFromCataloguesAndRecords) {
   DossierGeneral g;
   ASSERT_TRUE(LireDossierGeneral(racine_.Lire("Dossier/ESSAI.TVL/ESSAI.TVL"), g));
   EXPECT_EQ(Trim(g.NomExploitation), "\xC9levage");
-  EXPECT_EQ(Trim(g.DescriptionProjet), "un\rdeux");
+  EXPECT_EQ(Trim(g.DescriptionProjet), "un\r\ndeux");
   EXPECT_EQ(g.NbAssocies, 2);
   EXPECT_EQ(g.AssocieJA[2], 1);
   EXPECT_EQ(Trim(g.ModeCom[1][1]), "Coop\xE9rative");
