@@ -4,7 +4,7 @@
 
 #include "app/Verbes.h"
 #include "frame/Texte.h"
-#include "study/InspectionDossier.h"
+#include "study/ApercuDossier.h"
 
 namespace norvane {
 
@@ -15,7 +15,7 @@ int VerbeDossier(Application& application) {
     return 2;
   }
   const Session& session = application.session;
-  return InspecterDossier(chemin, session.Organisations, session.ParamFinal, std::cout) ? 0 : 1;
+  return DecrireDossier(chemin, session.Organisations, session.ParamFinal, std::cout) ? 0 : 1;
 }
 
 }  // namespace norvane

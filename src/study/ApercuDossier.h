@@ -16,7 +16,7 @@ namespace norvane {
 // `cheminDossier`: the dossier's folder ("/.../DUPONT.TVL", "\" accepted,
 // names matched without regard to case). False when the dossier cannot be read
 // at all: no such folder, or no readable general record in it.
-bool InspecterDossier(const std::string& cheminDossier, const std::array<Organisation, 20>& organisations,
+bool DecrireDossier(const std::string& cheminDossier, const std::array<Organisation, 20>& organisations,
                       int16_t paramFinal, std::ostream& sortie);
 
 }  // namespace norvane

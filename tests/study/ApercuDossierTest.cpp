@@ -9,7 +9,7 @@
 
 #include "construction/FichiersEtude.h"
 #include "frame/DossierTemporaire.h"
-#include "study/InspectionDossier.h"
+#include "study/ApercuDossier.h"
 
 namespace norvane {
 namespace {
@@ -44,7 +44,7 @@ class Inspection : public ::testing::Test {
 
   std::string Rapport(const std::string& chemin, bool attendu = true) {
     std::ostringstream sortie;
-    EXPECT_EQ(InspecterDossier(chemin, organisations_, 7, sortie), attendu);
+    EXPECT_EQ(DecrireDossier(chemin, organisations_, 7, sortie), attendu);
     return sortie.str();
   }
 

@@ -1,4 +1,4 @@
-#include "study/InspectionDossier.h"
+#include "study/ApercuDossier.h"
 
 #include <algorithm>
 #include <cmath>
@@ -219,7 +219,7 @@ std::vector<std::filesystem::path> FichiersSeries(const std::string& dossier) {
 
 }  // namespace
 
-bool InspecterDossier(const std::string& cheminDossier, const std::array<Organisation, 20>& organisations,
+bool DecrireDossier(const std::string& cheminDossier, const std::array<Organisation, 20>& organisations,
                       int16_t paramFinal, std::ostream& sortie) {
   std::string chemin = Trim(cheminDossier);
   std::replace(chemin.begin(), chemin.end(), '\\', '/');
