@@ -69,6 +69,11 @@ Resolution Resoudre(const std::string& brut) {
     r.complete = false;
     return r;
   }
+  // The usual case: the path exists as written, and one look at the disk does.
+  if (Existe(n)) {
+    r.chemin = n;
+    return r;
+  }
   if (n[0] == '/') r.chemin = "/";
   for (const std::string& composant : Composants(n)) {
     std::optional<std::string> reel;
