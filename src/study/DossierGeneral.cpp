@@ -23,8 +23,11 @@
 //   1399    40       AutresActivites
 //   1439    40       Banque
 //   1479    15       NumeroAdherent
-//   1494    14 x 40  ModeCom(0..6, 0..1)   for each product in turn, its name then
-//                                          its marketing mode; row 0 is unused
+//   1494    14 x 40  ModeCom(0..6, 0..1)   a two-dimensional array stored with its
+//                                          first index running fastest: the seven
+//                                          product names (1494 + 40 p), then the
+//                                          seven marketing modes (1774 + 40 p);
+//                                          product 0 is unused
 //   2054    2        MoisTva               16-bit
 //   2056    12       Reserve2056           read, not used
 //   2068    2        Devise                16-bit, 0 = franc, other = euro
@@ -82,8 +85,8 @@ constexpr ChampGeneral kChamps[] = {
 
 std::string NomElement(const ChampGeneral& champ, std::size_t rang) {
   if (champ.nombre == 1) return champ.nom;
-  if (champ.nombre == 14) {  // ModeCom: pairs (product, mode)
-    return std::string(champ.nom) + "(" + std::to_string(rang / 2) + ", " + std::to_string(rang % 2) + ")";
+  if (champ.nombre == 14) {  // ModeCom: names of products 0 to 6, then their modes
+    return std::string(champ.nom) + "(" + std::to_string(rang % 7) + ", " + std::to_string(rang / 7) + ")";
   }
   return std::string(champ.nom) + "(" + std::to_string(rang) + ")";
 }
@@ -125,9 +128,8 @@ bool LireDossierGeneral(std::string_view octets, DossierGeneral& d) {
   l.LireTexte(d.AutresActivites, 40);
   l.LireTexte(d.Banque, 40);
   l.LireTexte(d.NumeroAdherent, 15);
-  for (auto& paire : d.ModeCom) {
-    l.LireTexte(paire[0], 40);
-    l.LireTexte(paire[1], 40);
+  for (std::size_t colonne = 0; colonne < 2; ++colonne) {
+    for (auto& paire : d.ModeCom) l.LireTexte(paire[colonne], 40);
   }
   l.Lire(d.MoisTva);
   l.LireTexte(d.Reserve2056, 12);

@@ -117,11 +117,13 @@ TEST(DossierGeneral, FieldsStandAtTheirOffsets) {
   EXPECT_EQ(Texte(o, 1194 + 15 * 10, 12), "Situation 10");
   EXPECT_EQ(Texte(o, 1359, 6), "Bocage");
   EXPECT_EQ(Texte(o, 1479, 6), "A-1234");
-  // ModeCom: product by product, its name then its mode.
+  // ModeCom: the first index runs fastest, so the seven names come first,
+  // then the seven modes.
   EXPECT_EQ(Texte(o, 1494, 9), "Produit 0");
-  EXPECT_EQ(Texte(o, 1494 + 40, 6), "Mode 0");
-  EXPECT_EQ(Texte(o, 1494 + 2 * 80, 9), "Produit 2");
-  EXPECT_EQ(Texte(o, 1494 + 6 * 80 + 40, 6), "Mode 6");
+  EXPECT_EQ(Texte(o, 1494 + 40, 9), "Produit 1");
+  EXPECT_EQ(Texte(o, 1494 + 6 * 40, 9), "Produit 6");
+  EXPECT_EQ(Texte(o, 1774, 6), "Mode 0");
+  EXPECT_EQ(Texte(o, 1774 + 6 * 40, 6), "Mode 6");
   EXPECT_EQ(Entier16(o, 2054), 3);
   EXPECT_EQ(Entier16(o, 2068), 1);
   EXPECT_EQ(Texte(o, 2090, 14), "02 43 00 00 01");
@@ -131,7 +133,7 @@ TEST(DossierGeneral, FieldNamesForDiagnostics) {
   EXPECT_EQ(ChampDossierGeneral(0), "CheminDossierTervol");
   EXPECT_EQ(ChampDossierGeneral(197), "TypeExploitation");
   EXPECT_EQ(ChampDossierGeneral(732 + 30 * 2 + 5), "NomAssocie(2)");
-  EXPECT_EQ(ChampDossierGeneral(1494 + 80 * 3 + 40), "ModeCom(3, 1)");
+  EXPECT_EQ(ChampDossierGeneral(1774 + 40 * 3), "ModeCom(3, 1)");
   EXPECT_EQ(ChampDossierGeneral(2109), "Fax");
   EXPECT_EQ(ChampDossierGeneral(2110), "");
 }

@@ -34,7 +34,7 @@ std::string OctetsDossierGeneral(const DossierGeneral& d) {
       .Texte(1439, d.Banque, 40)
       .Texte(1479, d.NumeroAdherent, 15);
   for (std::size_t produit = 0; produit < 7; ++produit) {
-    e.Texte(1494 + 80 * produit, d.ModeCom[produit][0], 40).Texte(1494 + 80 * produit + 40, d.ModeCom[produit][1], 40);
+    e.Texte(1494 + 40 * produit, d.ModeCom[produit][0], 40).Texte(1774 + 40 * produit, d.ModeCom[produit][1], 40);
   }
   e.Entier16(2054, d.MoisTva)
       .Texte(2056, d.Reserve2056, 12)
