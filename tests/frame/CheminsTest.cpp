@@ -8,50 +8,33 @@
 namespace norvane {
 namespace {
 
-TEST(InitChemins, DerivesEveryFolderFromTheRoot) {
-  Session s;
-  InitChemins(s, "/opt/Tervol/Norvane");
-  EXPECT_EQ(s.RepWinTervol, "/opt/Tervol/");
-  EXPECT_EQ(s.RepDatacfg, "/opt/Tervol/Datacfg/");
-  EXPECT_EQ(s.RepModelGraph, "/opt/Tervol/ModelGraph/");
-  EXPECT_EQ(s.RepNorvane, "/opt/Tervol/Norvane/");
-  EXPECT_EQ(s.RepModlDocs, "/opt/Tervol/Norvane/ModlDocs/");
-  EXPECT_EQ(s.RepImages, "/opt/Tervol/Norvane/Images/");
-  EXPECT_EQ(s.RepSkin, "/opt/Tervol/Norvane/Skin/SkinNorvane");
-  EXPECT_EQ(s.RepGuide, kAdresseGuideEnLigne);
+TEST(InitChemins, TheRootIsWhatStandsBeforeTheFirstNorvaneInAnyCaseAndTheFoldersFollow) {
+  const std::pair<const char*, std::string> cas[] = {
+      {"/opt/Tervol/Norvane", "/opt/Tervol/"},
+      {"/srv/WinTERVOL/NORVANE", "/srv/WinTERVOL/"},  // found in upper case, the root keeps its own case
+      {"C:\\winTervol\\Norvane", "C:/winTervol/"},
+      {"/home/norvane-dev/arbre/Norvane", "/home/"},  // the first occurrence counts
+      {"/usr/local/bin", ""},                         // none: every folder is relative to the working one
+  };
+  for (const auto& [dossier, racine] : cas) {
+    Session s;
+    InitChemins(s, dossier);
+    EXPECT_EQ(s.RepWinTervol, racine) << dossier;
+    EXPECT_EQ(s.RepDatacfg, racine + "Datacfg/") << dossier;
+    EXPECT_EQ(s.RepModelGraph, racine + "ModelGraph/") << dossier;
+    EXPECT_EQ(s.RepModlDocs, racine + "Norvane/ModlDocs/") << dossier;
+    EXPECT_EQ(s.RepSkin, racine + "Norvane/Skin/SkinNorvane") << dossier;
+  }
 }
 
-TEST(InitChemins, WithoutNorvaneInThePathTheRootIsEmpty) {
-  Session s;
-  InitChemins(s, "/usr/local/bin");
-  EXPECT_EQ(s.RepWinTervol, "");
-  EXPECT_EQ(s.RepDatacfg, "Datacfg/");
-  EXPECT_EQ(s.RepNorvane, "Norvane/");
-}
-
-TEST(InitChemins, UpperCaseNorvaneIsFoundAndTheRootKeepsItsCase) {
-  Session s;
-  InitChemins(s, "/srv/WinTERVOL/NORVANE");
-  EXPECT_EQ(s.RepWinTervol, "/srv/WinTERVOL/");
-  InitChemins(s, "C:\\winTervol\\Norvane");
-  EXPECT_EQ(s.RepWinTervol, "C:/winTervol/");
-  InitChemins(s, "/home/norvane-dev/arbre/Norvane");  // the first occurrence counts
-  EXPECT_EQ(s.RepWinTervol, "/home/");
-}
-
-TEST(InitChemins, AnInstalledGuideFolderIsPreferredToTheOnlineGuide) {
+TEST(InitChemins, TheGuideIsTheInstalledFolderOrElseTheOnlineAddress) {
   test::DossierTemporaire tmp;
-  CreeArborescence(tmp / "Norvane/GuideNorvane/");
   Session s;
   InitChemins(s, tmp / "Norvane");
+  EXPECT_EQ(s.RepGuide, kAdresseGuideEnLigne);
+  CreeArborescence(tmp / "Norvane/GuideNorvane/");
+  InitChemins(s, tmp / "Norvane");
   EXPECT_EQ(s.RepGuide, tmp / "Norvane/GuideNorvane/");
-}
-
-TEST(DossierExecutable, IsTheFolderOfTheRunningProgram) {
-  const std::string dossier = DossierExecutable();
-  ASSERT_FALSE(dossier.empty());
-  EXPECT_TRUE(DossierExiste(dossier));
-  EXPECT_NE(dossier.back(), '/');
 }
 
 }  // namespace

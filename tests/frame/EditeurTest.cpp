@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "frame/DossierTemporaire.h"
 #include "frame/Parametres.h"
 #include "frame/PortsScriptes.h"
@@ -9,41 +11,33 @@
 namespace norvane {
 namespace {
 
-TEST(NomEditeur, LastComponentInLowerCaseIgnoringATrailingSeparator) {
-  EXPECT_EQ(NomEditeur("/usr/bin/soffice"), "soffice");
-  EXPECT_EQ(NomEditeur("C:\\Program Files\\Office\\WINWORD.EXE\\"), "winword.exe");
-  EXPECT_EQ(NomEditeur(" /opt/lotus/WordPro.exe "), "wordpro.exe");
-  EXPECT_EQ(NomEditeur(""), "");
-  Options o;
-  o.CheminEditeur = "/usr/lib/libreoffice/program/soffice.bin";
-  EXPECT_EQ(NomEditeur(o), "soffice.bin");
+TEST(NomEditeur, DispatchKeyAndShownNameOfABoundPath) {
+  const std::tuple<const char*, const char*, const char*, bool> cas[] = {
+      {"  ", "", "Aucun", false},
+      {"C:\\Program Files\\Office\\WINWORD.EXE\\", "winword.exe", "Microsoft Word", false},
+      {" C:\\Lotus\\WordPro.exe ", "wordpro.exe", "Lotus Word Pro", false},
+      {"C:\\OpenOffice\\program\\soffice.exe", "soffice.exe", "Sun OpenOffice", true},
+      {"/usr/bin/soffice", "soffice", "Sun OpenOffice", true},
+      {"/usr/lib/libreoffice/program/soffice.bin", "soffice.bin", "Sun OpenOffice", true},
+      {"/usr/bin/libreoffice", "libreoffice", "LibreOffice", true},
+      {"C:\\Prog\\EDITEUR.exe", "editeur.exe", "Editeur", false},  // any other: its capitalised name
+      {"/opt/\xC9TUDE", "\xE9tude", "\xC3\x89tude", false},        // Windows-1252 in, UTF-8 shown
+  };
+  for (const auto& [chemin, nom, affichage, openOffice] : cas) {
+    EXPECT_EQ(NomEditeur(chemin), nom) << chemin;
+    EXPECT_EQ(NomAffichageEditeur(chemin), affichage) << chemin;
+    EXPECT_EQ(EstDriverOpenOffice(nom), openOffice) << chemin;
+  }
 }
 
-TEST(EstDriverOpenOffice, KnowsTheOpenOfficeExecutables) {
-  for (const char* nom : {"soffice", "soffice.bin", "libreoffice", "soffice.exe"}) EXPECT_TRUE(EstDriverOpenOffice(nom));
-  for (const char* nom : {"winword.exe", "abiword", ""}) EXPECT_FALSE(EstDriverOpenOffice(nom));
-}
-
-TEST(NomAffichageEditeur, ProductNamesOrTheCapitalisedFileName) {
-  EXPECT_EQ(NomAffichageEditeur("  "), "Aucun");
-  EXPECT_EQ(NomAffichageEditeur("C:\\Office\\WINWORD.EXE\\"), "Microsoft Word");
-  EXPECT_EQ(NomAffichageEditeur("C:\\Lotus\\wordpro.exe"), "Lotus Word Pro");
-  EXPECT_EQ(NomAffichageEditeur("C:\\OpenOffice\\program\\soffice.exe"), "Sun OpenOffice");
-  EXPECT_EQ(NomAffichageEditeur("/usr/bin/soffice"), "Sun OpenOffice");
-  EXPECT_EQ(NomAffichageEditeur("/usr/bin/libreoffice"), "LibreOffice");
-  EXPECT_EQ(NomAffichageEditeur("C:\\Prog\\EDITEUR.exe"), "Editeur");
-  EXPECT_EQ(NomAffichageEditeur("/usr/bin/abiword"), "Abiword");
-  EXPECT_EQ(NomAffichageEditeur("/opt/\xC9""CRIRE"), "\xC3\x89""crire");  // Windows-1252 in, UTF-8 out
-}
-
-TEST(CompleterExe, MakesAnExeOfAFileChosenByHand) {
+TEST(CompleterExe, AFileChosenByHandBecomesAnExe) {
   EXPECT_EQ(CompleterExe("C:\\Prog\\editeur"), "C:\\Prog\\editeur.exe");
   EXPECT_EQ(CompleterExe("C:\\Prog\\editeur.bat"), "C:\\Prog\\editeur.exe");
-  EXPECT_EQ(CompleterExe("a.b"), "a.b.exe");
+  EXPECT_EQ(CompleterExe("a.b"), "a.b.exe");  // only a three-letter extension is replaced
   EXPECT_EQ(CompleterExe("   "), "   ");
 }
 
-TEST(VerifierEditeur, AskForTheChoiceWindowOnlyWhenNothingIsBound) {
+TEST(VerifierEditeur, AsksForTheChoiceWindowOnlyWhenNothingIsBound) {
   Options o;
   o.CheminEditeur = "  ";
   EXPECT_TRUE(VerifierEditeur(o).choixNecessaire);
@@ -54,47 +48,32 @@ TEST(VerifierEditeur, AskForTheChoiceWindowOnlyWhenNothingIsBound) {
   EXPECT_EQ(o.CheminEditeur, "/usr/bin/soffice");
 }
 
-TEST(ChoisirPopup, TickedBoxShowsTheStartUpWindow) {
-  Options o;
-  ChoisirPopup(o, 0);
-  EXPECT_EQ(o.MasquerPopup, 1);
-  ChoisirPopup(o, 1);
-  EXPECT_EQ(o.MasquerPopup, 0);
-}
-
 class ValiderEditeurTest : public ::testing::Test {
  protected:
   void SetUp() override { session.RepNorvane = tmp / "Norvane/"; }
+  std::string CheminEnregistre() const { return ChargerParametres(session.RepNorvane).options.CheminEditeur; }
   test::DossierTemporaire tmp;
   Session session;
   MessagesScriptes messages;
 };
 
-TEST_F(ValiderEditeurTest, StoresTheTrimmedPathAndSaves) {
+TEST_F(ValiderEditeurTest, StoresTheTrimmedPathAndABlankOneWarnsButUnbinds) {
   EXPECT_EQ(ValiderEditeur(session, "  /usr/bin/libreoffice  ", messages), "LibreOffice");
-  EXPECT_EQ(session.options.CheminEditeur, "/usr/bin/libreoffice");
-  EXPECT_EQ(ChargerParametres(session.RepNorvane).options.CheminEditeur, "/usr/bin/libreoffice");
-  EXPECT_TRUE(messages.questions.empty());
-}
-
-TEST_F(ValiderEditeurTest, ABlankPathWarnsButUnbindsTheEditor) {
-  session.options.CheminEditeur = "/usr/bin/soffice";
+  EXPECT_EQ(CheminEnregistre(), "/usr/bin/libreoffice");
   EXPECT_EQ(ValiderEditeur(session, " ", messages), "Aucun");
-  ASSERT_EQ(messages.questions.size(), 1u);
-  EXPECT_EQ(messages.questions[0].titre, "Choix d'un éditeur de texte pour Norvane");
-  EXPECT_EQ(messages.questions[0].texte, "Le chemin de l'éditeur choisi est vide !");
-  EXPECT_EQ(messages.questions[0].icone, Icone::Exclamation);
-  EXPECT_EQ(ChargerParametres(session.RepNorvane).options.CheminEditeur, "");
+  EXPECT_EQ(CheminEnregistre(), "");
+  EXPECT_EQ(messages.Journal(), "Choix d'un éditeur de texte pour Norvane: Le chemin de l'éditeur choisi est vide !\n");
+  EXPECT_EQ(messages.questions.at(0).icone, Icone::Exclamation);
 }
 
-TEST_F(ValiderEditeurTest, APathTooLongForTheSettingsIsRefused) {
+TEST_F(ValiderEditeurTest, APathTheSettingsCannotHoldIsRefusedAndTheOldBindingStays) {
   ValiderEditeur(session, "/usr/bin/soffice", messages);
-  const std::string avant = tmp.Lire("Norvane/Editeur.svg");
   EXPECT_EQ(ValiderEditeur(session, "/" + std::string(126, 'x'), messages), "Sun OpenOffice");
   EXPECT_EQ(session.options.CheminEditeur, "/usr/bin/soffice");
-  ASSERT_EQ(messages.messages.size(), 1u);
-  EXPECT_NE(messages.messages[0].texte.find("126"), std::string::npos);
-  EXPECT_EQ(tmp.Lire("Norvane/Editeur.svg"), avant);
+  EXPECT_EQ(CheminEnregistre(), "/usr/bin/soffice");
+  EXPECT_EQ(messages.Journal(),
+            "Choix d'un éditeur de texte pour Norvane: Impossible d'enregistrer les paramètres : le chemin de "
+            "l'éditeur dépasse 126 caractères (record 1).\n");
 }
 
 }  // namespace

@@ -2,57 +2,45 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace norvane {
 namespace {
 
 using Liste = std::vector<std::string>;
 
 TEST(DecouperLigneCommande, QuotesGroupBlanksAndAreNeverKept) {
-  EXPECT_EQ(DecouperLigneCommande("INI \"C:\\Mes Docs\\m.tvm\" r.rtf"), (Liste{"INI", "C:\\Mes Docs\\m.tvm", "r.rtf"}));
-  EXPECT_EQ(DecouperLigneCommande("  a   b  "), (Liste{"a", "b"}));
-  EXPECT_EQ(DecouperLigneCommande("ab\"cd ef"), (Liste{"abcd", "ef"}));
-  EXPECT_EQ(DecouperLigneCommande("\"\" x"), (Liste{"", "x"}));
+  const std::pair<const char*, Liste> cas[] = {
+      {"INI \"C:\\Mes Docs\\m.tvm\" r.rtf", {"INI", "C:\\Mes Docs\\m.tvm", "r.rtf"}},
+      {"  a   b  ", {"a", "b"}},
+      {"ab\"cd ef", {"abcd", "ef"}},
+      {"\"\" x", {"", "x"}},
+      {"OUVRIR \"C:\\a b", {"OUVRIR", "C:\\a b"}},  // the last open argument counts
+      {"     ", {}},                                // blanks only: no argument, the bar starts
+  };
+  for (const auto& [ligne, arguments] : cas) EXPECT_EQ(DecouperLigneCommande(ligne), arguments) << ligne;
 }
 
-TEST(DecouperLigneCommande, TheLastOpenArgumentCounts) {
-  EXPECT_EQ(DecouperLigneCommande("OUVRIR \"C:\\a b"), (Liste{"OUVRIR", "C:\\a b"}));
-  EXPECT_EQ(DecouperLigneCommande("CREER x"), (Liste{"CREER", "x"}));
-}
-
-TEST(DecouperLigneCommande, BlanksOnlyGiveNoArgument) {
-  EXPECT_TRUE(DecouperLigneCommande("").empty());
-  EXPECT_TRUE(DecouperLigneCommande("     ").empty());
-}
-
-TEST(ArgumentsProcessus, DropsQuotesAndBlankArguments) {
+TEST(ParamCmd, QuotesAndBlankArgumentsAreDroppedThenArgumentsCountFromOne) {
   EXPECT_TRUE(ArgumentsProcessus({"  ", "", "\"\"", "\" \""}).empty());
-  EXPECT_EQ(ArgumentsProcessus({"\"INI\"", " ", "a b"}), (Liste{"INI", "a b"}));
-}
-
-TEST(ParamCmd, CountsFromOneAndIsEmptyBeyondTheEnd) {
-  const Liste arguments = {"GRAPH", "/x/D.TVL"};
+  const Liste arguments = ArgumentsProcessus({"\"GRAPH\"", " ", "/x/Mes D.TVL"});
+  EXPECT_EQ(arguments, (Liste{"GRAPH", "/x/Mes D.TVL"}));
   EXPECT_EQ(NbParamCmd(arguments), 2);
-  EXPECT_EQ(ParamCmd(arguments, 1), "GRAPH");
-  EXPECT_EQ(ParamCmd(arguments, 2), "/x/D.TVL");
-  EXPECT_EQ(ParamCmd(arguments, 3), "");
-  EXPECT_EQ(ParamCmd(arguments, 0), "");
+  EXPECT_EQ(ParamCmd(arguments, 2), "/x/Mes D.TVL");
+  EXPECT_EQ(ParamCmd(arguments, 3) + ParamCmd(arguments, 0), "");
 }
 
-TEST(RemplacerBlancs, EveryMarkerInAnyCaseBecomesABlank) {
-  EXPECT_EQ(RemplacerBlancs("C:\\Mes#esp#Documents#ESP#x.tvm", "#esp#"), "C:\\Mes Documents x.tvm");
-}
-
-TEST(DecouperArgumentDossier, SplitsFolderAndNameOnTheLastSeparator) {
-  Session s;
-  DecouperArgumentDossier("C:\\Mes#tvl#Etudes\\DUPONT.TVL\\", s);
-  EXPECT_EQ(s.RepDossier[0], "C:\\Mes Etudes\\");
-  EXPECT_EQ(s.NomDossier[0], "DUPONT.TVL");
-  DecouperArgumentDossier("/home/a\\b/MARTIN.TVL", s);
-  EXPECT_EQ(s.RepDossier[0], "/home/a\\b/");
-  EXPECT_EQ(s.NomDossier[0], "MARTIN.TVL");
-  DecouperArgumentDossier("SEUL.TVL", s);
-  EXPECT_EQ(s.RepDossier[0], "");
-  EXPECT_EQ(s.NomDossier[0], "SEUL.TVL");
+TEST(DecouperArgumentDossier, BlankMarkersInAnyCaseThenFolderAndNameOnTheLastSeparator) {
+  const std::tuple<const char*, const char*, const char*> cas[] = {
+      {"C:\\Mes#tvl#Etudes#TVL#2\\DUPONT.TVL\\", "C:\\Mes Etudes 2\\", "DUPONT.TVL"},
+      {"/home/a\\b/MARTIN.TVL", "/home/a\\b/", "MARTIN.TVL"},
+      {"SEUL.TVL", "", "SEUL.TVL"}};
+  for (const auto& [argument, rep, nom] : cas) {
+    Session s;
+    DecouperArgumentDossier(argument, s);
+    EXPECT_EQ(s.RepDossier[0], rep) << argument;
+    EXPECT_EQ(s.NomDossier[0], nom) << argument;
+  }
 }
 
 }  // namespace

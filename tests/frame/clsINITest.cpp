@@ -7,7 +7,6 @@
 namespace norvane {
 namespace {
 
-using test::DossierTemporaire;
 using Paires = std::vector<clsINI::Paire>;
 using Noms = std::vector<std::string>;
 
@@ -18,8 +17,8 @@ constexpr char kDonnees[] =
     "prix=13\r\n"
     "Cle=a=b\r\n"
     "  ;commentaire=1\r\n"
-    "\r\n"
     "Seul\r\n"
+    "\r\n"
     "  [ Prix ]  \n"
     "Ble=150\n";
 
@@ -29,22 +28,18 @@ class clsINITest : public ::testing::Test {
     tmp.Ecrire("donnees.INI", kDonnees);
     ini.Filename(tmp / "donnees.INI");
   }
-  DossierTemporaire tmp;
+  test::DossierTemporaire tmp;
   clsINI ini;
 };
 
-TEST_F(clsINITest, KeysAndSectionsIgnoreCaseAndTheFirstLikeKeyWins) {
+TEST_F(clsINITest, NamesIgnoreCaseTheFirstLikeKeyWinsAndAValueIsCutAtAnEqualSign) {
   EXPECT_EQ(ini.GetKeyFromSection("PRIX", "g\xC9N\xC9RAL"), "12");
   EXPECT_EQ(ini.GetKeyFromSection("ble", " prix "), "150");
-  EXPECT_TRUE(ini.CheckSection("PRIX"));
-  EXPECT_TRUE(ini.CheckKey("seul", "Prix") == false);
+  EXPECT_EQ(ini.GetKeyFromSection("Cle", "G\xE9n\xE9ral"), "a");
   EXPECT_TRUE(ini.CheckKey("seul", "G\xE9n\xE9ral"));
+  EXPECT_FALSE(ini.CheckKey("seul", "Prix"));
   EXPECT_EQ(ini.GetKeyFromSection("absente", "Prix"), "");
   EXPECT_EQ(ini.GetKeyFromSection("Ble", "absente"), "");
-}
-
-TEST_F(clsINITest, AValueHoldingAnEqualSignIsCutThere) {
-  EXPECT_EQ(ini.GetKeyFromSection("Cle", "G\xE9n\xE9ral"), "a");
 }
 
 TEST_F(clsINITest, CommentsAndBlankLinesAreDroppedUnlessAsked) {
@@ -63,59 +58,44 @@ TEST_F(clsINITest, SortingIsAscendingWithoutRegardToCase) {
   EXPECT_EQ(ini.GetAllKeysFromSection("c", f, false, true), (Paires{{"x", "3"}, {"Y", "2"}, {"z", "1"}}));
 }
 
-TEST_F(clsINITest, AMissingFileGivesNothing) {
-  const std::string f = tmp / "absent.ini";
-  EXPECT_FALSE(ini.CheckIniFile(f));
-  EXPECT_FALSE(ini.GetAllSectionsFromInifile(f));
-  EXPECT_FALSE(ini.CheckSection("Prix", f));
-  EXPECT_EQ(ini.GetKeyFromSection("Ble", "Prix", f), "");
-}
-
 TEST_F(clsINITest, BlankArgumentsFallBackOnTheProperties) {
   ini.Filename("   " + (tmp / "donnees.INI") + "  ");
-  EXPECT_EQ(ini.Filename(), tmp / "donnees.INI");
   ini.Section = "Prix";
   ini.Key = "Ble";
-  EXPECT_EQ(ini.GetKeyFromSection(), "150");
-  EXPECT_EQ(ini.GetKeyFromSection("  ", " "), "150");
   EXPECT_TRUE(ini.CheckIniFile());
+  EXPECT_EQ(ini.GetKeyFromSection("  ", " "), "150");
 }
 
-TEST_F(clsINITest, DeleteAllSectionDeletesNothing) {
+TEST_F(clsINITest, AMissingFileReadsAsNothingUntilSaveKeyCreatesIt) {
+  const std::string f = tmp / "ModAniLib.ini";
+  EXPECT_FALSE(ini.CheckIniFile(f));
+  EXPECT_FALSE(ini.GetAllSectionsFromInifile(f));
+  EXPECT_EQ(ini.GetKeyFromSection("NumLastMod", "GLOBAL", f), "");
+  EXPECT_FALSE(ini.SaveKey("4", "NumLastMod", "GLOBAL", f));
+  EXPECT_EQ(tmp.Lire("ModAniLib.ini"), "[GLOBAL]\r\nNumLastMod=4\r\n");
+}
+
+TEST_F(clsINITest, SaveKeyAnswersFalseButWritesInCrLfAndDeleteAllSectionDeletesNothing) {
   ini.DeleteAllSectionFromInifile();
   EXPECT_EQ(tmp.Lire("donnees.INI"), kDonnees);
-}
-
-TEST_F(clsINITest, SaveKeyAnswersFalseButWritesInCrLf) {
   EXPECT_FALSE(ini.SaveKey("160", "BLE", "prix"));
   EXPECT_FALSE(ini.SaveKey("7", "Orge", "Prix"));
   EXPECT_FALSE(ini.SaveKey("1", "Nouvelle", "G\xE9n\xE9ral"));
   EXPECT_FALSE(ini.SaveKey("oui", "ACTIF", "MOD3"));
   EXPECT_EQ(tmp.Lire("donnees.INI"),
-            "; tarifs\r\n[G\xE9n\xE9ral]\r\nPrix = 12\r\nprix=13\r\nCle=a=b\r\n  ;commentaire=1\r\n\r\nSeul\r\n"
-            "Nouvelle=1\r\n  [ Prix ]  \r\nBle=160\r\nOrge=7\r\n[MOD3]\r\nACTIF=oui\r\n");
-  EXPECT_EQ(ini.GetKeyFromSection("actif", "mod3"), "oui");
+            "; tarifs\r\n[G\xE9n\xE9ral]\r\nPrix = 12\r\nprix=13\r\nCle=a=b\r\n  ;commentaire=1\r\nSeul\r\n"
+            "Nouvelle=1\r\n\r\n  [ Prix ]  \r\nBle=160\r\nOrge=7\r\n[MOD3]\r\nACTIF=oui\r\n");
 }
 
-TEST_F(clsINITest, SaveKeyCreatesAMissingFile) {
-  EXPECT_FALSE(ini.SaveKey("4", "NumLastMod", "GLOBAL", tmp / "ModAniLib.ini"));
-  EXPECT_EQ(tmp.Lire("ModAniLib.ini"), "[GLOBAL]\r\nNumLastMod=4\r\n");
-}
-
-TEST_F(clsINITest, CreateIniFileEmptiesAndCreateSectionAppendsOnce) {
-  ini.CreateIniFile();
-  EXPECT_EQ(tmp.Lire("donnees.INI"), "");
-  ini.CreateSection("Prix");
-  ini.CreateSection("PRIX");
-  EXPECT_EQ(tmp.Lire("donnees.INI"), "[Prix]\r\n");
-}
-
-TEST_F(clsINITest, DeletingASectionOrAKeyLeavesTheRest) {
+TEST_F(clsINITest, CreateDeleteAndEmptySectionsKeysAndFiles) {
   ini.DeleteKeyFromSection("PRIX", "G\xE9n\xE9ral");
   EXPECT_EQ(ini.GetKeyFromSection("Prix", "G\xE9n\xE9ral"), "13");
   ini.DeleteSectionFromInifile("g\xE9n\xE9ral");
   EXPECT_EQ(ini.GetAllSectionsFromInifile(), (Noms{"Prix"}));
-  EXPECT_EQ(ini.GetKeyFromSection("Ble", "Prix"), "150");
+  ini.CreateIniFile();
+  ini.CreateSection("Prix");
+  ini.CreateSection("PRIX");
+  EXPECT_EQ(tmp.Lire("donnees.INI"), "[Prix]\r\n");
   ini.DeleteIniFile();
   EXPECT_FALSE(tmp.Existe("donnees.INI"));
 }
