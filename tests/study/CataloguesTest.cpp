@@ -4,8 +4,8 @@
 
 #include "construction/FichiersEtude.h"
 #include "frame/DossierTemporaire.h"
-#include "frame/Texte.h"
 #include "study/Catalogues.h"
+#include "study/ChampsEssai.h"
 
 namespace norvane {
 namespace {
@@ -15,32 +15,24 @@ EntreeCatalogue Entree(const std::string& code, const std::string& intitule, con
   return {code, intitule, groupe1, groupe2, sorte, 0};
 }
 
-std::vector<EntreeCatalogue> Resultats() {
-  return {Entree("RES", "R\xE9sultats"),
-          Entree("RES-1:0", "Produit brut", "Produits"),
-          Entree("RES-2:0", "Lait vendu", "Produits", "Lait"),
-          Entree("RES-3:0", "[ sans nom ]", "Produits"),
-          Entree("RES-4:2", "Prix du lait", "Produits", "Lait"),
-          Entree("RES-5:0", "Note", "", "", 0),  // not a series line
-          Entree("RES5", "Sans tiret"),          // no "-"
-          Entree("RES-17", "EBE")};
-}
-
-std::string Decrire(const std::vector<NoeudArbre>& noeuds) {
+// The tree of a catalogue written in a fresh Datacfg folder, one line a node.
+std::string Arbre(const std::string& fichier, const std::vector<EntreeCatalogue>& entrees) {
+  test::DossierTemporaire datacfg;
+  construction::EcrireCatalogue(datacfg / fichier, entrees);
   std::string texte;
-  for (const NoeudArbre& n : noeuds) texte += n.cleParent + " > " + n.cle + " [" + n.texte + "] " + n.image + "\n";
+  for (const NoeudArbre& n : RemplirArbreSeries(fichier, datacfg.Chemin())) {
+    texte += n.cleParent + " > " + n.cle + " [" + n.texte + "] " + n.image + "\n";
+  }
   return texte;
 }
 
-class ArbreSeries : public ::testing::Test {
- protected:
-  void SetUp() override { ASSERT_FALSE(datacfg_.Chemin().empty()); }
-  test::DossierTemporaire datacfg_;
-};
-
-TEST_F(ArbreSeries, HeadGroupsOnceAndLeavesKeyedByTheDonFile) {
-  construction::EcrireCatalogue(datacfg_ / "RES.CFG", Resultats());
-  EXPECT_EQ(Decrire(RemplirArbreSeries("RES.CFG", datacfg_.Chemin())),
+TEST(ArbreSeries, HeadGroupsOnceAndLeavesKeyedByTheDonFile) {
+  EXPECT_EQ(Arbre("RES.CFG", {Entree("RES", "R\xE9sultats"), Entree("RES-1:0", "Produit brut", "Produits"),
+                              Entree("RES-2:0", "Lait vendu", "Produits", "Lait"),
+                              Entree("RES-3:0", "[ sans nom ]", "Produits"),
+                              Entree("RES-4:2", "Prix du lait", "Produits", "Lait"),
+                              Entree("RES-5:0", "Note", "", "", 0),  // not a series line
+                              Entree("RES5", "Sans tiret"), Entree("RES-17", "EBE")}),
             " > RES [R\xE9sultats] rep\n"
             "RES > RES-Produits [Produits] rep\n"
             "RES-Produits > RES.DON+RES-1 [Produit brut] puce\n"
@@ -50,47 +42,35 @@ TEST_F(ArbreSeries, HeadGroupsOnceAndLeavesKeyedByTheDonFile) {
             "RES > RES.DON+RES-17 [EBE] puce\n");
 }
 
-TEST_F(ArbreSeries, RessupHasNoHeadNode) {
-  construction::EcrireCatalogue(
-      datacfg_ / "RESSUP.CFG",
-      {Entree("RESSUP", "Compl\xE9ments"), Entree("RESSUP-1:0", "Marge", "Ateliers"), Entree("RESSUP-2:0", "Solde")});
-  EXPECT_EQ(Decrire(RemplirArbreSeries("RESSUP.CFG", datacfg_.Chemin())),
+TEST(ArbreSeries, RessupHasNoHeadNode) {
+  EXPECT_EQ(Arbre("RESSUP.CFG", {Entree("RESSUP", "Compl\xE9ments"), Entree("RESSUP-1:0", "Marge", "Ateliers"),
+                                 Entree("RESSUP-2:0", "Solde")}),
             " > RESSUP-Ateliers [Ateliers] rep\n"
             "RESSUP-Ateliers > RESSUP.DON+RESSUP-1 [Marge] puce\n"
             " > RESSUP.DON+RESSUP-2 [Solde] puce\n");
 }
 
-TEST_F(ArbreSeries, AnEmptyMissingOrHeadlessCatalogueGivesNoNode) {
-  construction::EcrireCatalogue(datacfg_ / "VIDE.CFG", {Entree("VIDE", "Vide", "", "", 0), Entree("VIDE-1", "X")});
-  EXPECT_TRUE(RemplirArbreSeries("VIDE.CFG", datacfg_.Chemin()).empty());
-  EXPECT_TRUE(RemplirArbreSeries("ABSENT.CFG", datacfg_.Chemin()).empty());
-  datacfg_.Ecrire("COURT.CFG", std::string(117, ' '));
-  EXPECT_TRUE(RemplirArbreSeries("COURT.CFG", datacfg_.Chemin()).empty());
-}
-
-TEST_F(ArbreSeries, ACatalogueByPathAndByNameInAnyCase) {
-  construction::EcrireCatalogue(datacfg_ / "LAIT.CFG", {Entree("LAIT", "Lait"), Entree("LAIT-1:0", "Vaches")});
-  EXPECT_EQ(RemplirArbreSeries(datacfg_ / "LAIT.CFG", "/ailleurs/").size(), 2u);
-  const auto noeuds = RemplirArbreSeries("lait.cfg", datacfg_.Chemin());
+TEST(ArbreSeries, FoundByPathOrByNameInAnyCaseAndEmptyWhenThereIsNoHead) {
+  test::DossierTemporaire datacfg;
+  construction::EcrireCatalogue(datacfg / "LAIT.CFG", {Entree("LAIT", "Lait"), Entree("LAIT-1:0", "Vaches")});
+  EXPECT_EQ(RemplirArbreSeries(datacfg / "LAIT.CFG", "/ailleurs/").size(), 2u);
+  const auto noeuds = RemplirArbreSeries("lait.cfg", datacfg.Chemin());
   ASSERT_EQ(noeuds.size(), 2u);
   EXPECT_EQ(noeuds[1].cle, "lait.DON+LAIT-1");
+
+  EXPECT_EQ(Arbre("VIDE.CFG", {Entree("VIDE", "Vide", "", "", 0), Entree("VIDE-1", "X")}), "");  // Sorte 0
+  EXPECT_TRUE(RemplirArbreSeries("ABSENT.CFG", datacfg.Chemin()).empty());
+  datacfg.Ecrire("COURT.CFG", std::string(117, ' '));
+  EXPECT_TRUE(RemplirArbreSeries("COURT.CFG", datacfg.Chemin()).empty());
 }
 
 TEST(Catalogue, RecordLayoutAndTruncatedCount) {
   const std::string octets = construction::OctetsEntreeCatalogue(Entree("RES-4:2", "Prix", "G1", "G2", 1));
   ASSERT_EQ(octets.size(), kLongueurEntreeCatalogue);
-  EXPECT_EQ(octets.substr(0, 12), "RES-4:2     ");
-  EXPECT_EQ(octets.substr(12, 4), "Prix");
-  EXPECT_EQ(octets.substr(34, 2), "G1");
-  EXPECT_EQ(octets.substr(74, 2), "G2");
-  EXPECT_EQ(octets.substr(114, 4), std::string("\x01\x00\x00\x00", 4));
-
-  const std::string deux = octets + octets + std::string(50, 'x');
-  const auto entrees = LireCatalogue(deux);
+  test::VerifierChamps(octets, {{0, "RES-4:2     Prix  "}, {34, "G1  "}, {74, "G2  "}, {114, test::I16(1)}});
+  const auto entrees = LireCatalogue(octets + octets + std::string(117, 'x'));
   ASSERT_EQ(entrees.size(), 2u);
-  EXPECT_EQ(Trim(entrees[1].Groupe2), "G2");
-  EXPECT_EQ(entrees[1].Sorte, 1);
-  EXPECT_TRUE(LireCatalogue(std::string(117, 'x')).empty());
+  EXPECT_EQ(construction::OctetsEntreeCatalogue(entrees[1]), octets);
 }
 
 }  // namespace
