@@ -16,7 +16,7 @@ namespace {
 // order matters and some entries lack their backslash on purpose: "\b" takes
 // the head of "\bkmkstart", "\c" that of "\cf1", so that remains such as
 // "kmkstart" and "f1" are left for the steps below.
-constexpr std::array<std::string_view, 34> kARetirer = {
+constexpr std::array<std::string_view, 33> kARetirer = {
     "\\sect", "\\page", "\\fs16", "fs20", "fs22", "\\fs24", "\\fs28", "\\fs32", "\\fs36",
     "\\fs40", "\\caps", "\\plain", "\\par", "\\cs", "\\c", "\\i", "\\~", "\\lang2057 ",
     "\x08", "\t", "\n", "\r", "\\lang", "\\fs", "\\b", "\\ul", "\\*\\", "\\*", "{", "}", " ",

@@ -7,13 +7,22 @@
 #include <ctime>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
+#include "construction/FichiersEtude.h"
 #include "frame/Encodage.h"
 #include "frame/PortsScriptes.h"
 #include "template/Generation.h"
 #include "template/Interpreteur.h"
 
 namespace norvane::test {
+
+// Rows {input, expected} of a table-driven test.
+using Cas = std::vector<std::pair<std::string, std::string>>;
+
+inline const std::string kErreurDetectee = "Erreur détectée :  cliquez Fermer pour continuer";
+inline const std::string kConseilModele = "Modifier le modèle de document pour que l'erreur n'apparaisse plus.";
 
 // Windows-1252 bytes of a UTF-8 literal, as the interpreter writes them.
 inline std::string Cp(const std::string& utf8) { return Utf8VersCp1252(utf8); }
@@ -43,9 +52,24 @@ class BancInterpreteur : public ::testing::Test {
   }
   // The value that one code leaves in a text made of that code alone.
   std::string Valeur(const std::string& code) { return Interpreter("#tvl(" + code + ")#"); }
+  // Each code of the table gives its value.
+  void Valeurs(const Cas& cas) {
+    for (const auto& [code, attendu] : cas) EXPECT_EQ(Valeur(code), attendu) << code;
+  }
+  // The one box shown so far (an empty one when there is none).
+  MessageEnregistre Boite() {
+    EXPECT_EQ(messages.messages.size(), 1u);
+    return messages.messages.empty() ? MessageEnregistre{} : messages.messages.back();
+  }
 
   DossierGeneral& Info() { return session.InfoDossier; }
   void Societe() { session.InfoDossier.TypeExploitation = 1; }
+  // Dossier slot 0 is `racine` + "ESSAI.TVL", whose RES.DON holds `series`.
+  void DossierEssai(const std::string& racine, const std::vector<SerieDonnees>& series) {
+    construction::EcrireSeries(racine + "ESSAI.TVL/RES.DON", series);
+    session.RepDossier[0] = racine;
+    session.NomDossier[0] = "ESSAI.TVL";
+  }
 
   Session session;
   MessagesScriptes messages;

@@ -1,8 +1,11 @@
 // The vocabulary of general fields: société rules, associate lists, project
-// description, path, currency and marketing modes.
+// description, marketing modes, exercise dates, the age rule and the
+// organisations of ORGA codes.
 #include <chrono>
 #include <filesystem>
+#include <tuple>
 
+#include "construction/ImagePng.h"
 #include "frame/DossierTemporaire.h"
 #include "template/BancInterpreteur.h"
 
@@ -28,120 +31,76 @@ class ChampsGeneraux : public BancInterpreteur {
     Info().AssocieJA[2] = 1;
     Info().Situation[2] = Cp("Marié");
   }
+  DossierTemporaire temporaire;
 };
 
-TEST_F(ChampsGeneraux, NomsSelonSocieteOuNon) {
-  EXPECT_EQ(Valeur("nomExploit"), "GAEC DES CHAMPS");
-  EXPECT_EQ(Valeur("nomSociete"), "\\~");
-  EXPECT_EQ(Valeur("nomExplJA"), "GAEC DES CHAMPS");
-  EXPECT_EQ(Valeur("typeSoc"), "individuelle");
-  EXPECT_EQ(Valeur("sitExplJA"), "marie");
-  DeuxAssocies();
-  EXPECT_EQ(Valeur("nomExploit"), "\\~");
-  EXPECT_EQ(Valeur("nomSociete"), "GAEC DES CHAMPS");
-  EXPECT_EQ(Valeur("nomExplSoc"), "GAEC DES CHAMPS");
-  EXPECT_EQ(Valeur("typeSoc"), Cp("société"));
-  // The main associate is the first JA from slot 0: Paul.
-  EXPECT_EQ(Valeur("nomExplJA"), "Paul");
-  EXPECT_EQ(Valeur("sitExplJA"), Cp("marié"));
-}
-
-TEST_F(ChampsGeneraux, SocieteSansJA) {
-  Societe();
-  EXPECT_EQ(Valeur("nomExplJA"), "\\~");
-  EXPECT_EQ(Valeur("ageExplJA"), "??");
+TEST_F(ChampsGeneraux, NomsSelonSocieteEtAssociePrincipal) {
+  Valeurs({{"nomExploit", "GAEC DES CHAMPS"}, {"nomSociete", "\\~"}, {"nomExplJA", "GAEC DES CHAMPS"},
+           {"typeSoc", "individuelle"}, {"sitExplJA", "marie"}});
+  Societe();  // with no JA associate
+  Valeurs({{"nomExplJA", "\\~"}, {"ageExplJA", "??"}});
+  DeuxAssocies();  // the main associate is the first JA from slot 0: Paul
+  Valeurs({{"nomExploit", "\\~"}, {"nomSociete", "GAEC DES CHAMPS"}, {"nomExplSoc", "GAEC DES CHAMPS"},
+           {"typeSoc", Cp("société")}, {"nomExplJA", "Paul"}, {"sitExplJA", Cp("marié")}});
+  Info().AssocieJA[0] = 1;  // slot 0 comes first
+  EXPECT_EQ(Valeur("nomExplJA"), "Exploitant seul");
 }
 
 TEST_F(ChampsGeneraux, ListesDAssocies) {
   DeuxAssocies();
-  EXPECT_EQ(Valeur("associes"), Cp("Liste des associés : \\par - Pierre, né(e) le : 01/02/1980\\par "
-                                    "- Paul, Jeune Agriculteur\\par"));
-  EXPECT_EQ(Valeur("nomAssocies"), Cp("Nom des associés : \\par - Pierre\\par - Paul\\par"));
-  EXPECT_EQ(Valeur("assNesLe"), Cp("Date de naissance des associés : \\par - Pierre : 01/02/1980\\par "
-                                    "- Paul : non renseignée\\par"));
-  EXPECT_EQ(Valeur("situAss"), Cp("Situation familiale des associés : \\par - Pierre : Célibataire\\par "
-                                   "- Paul : Marié\\par"));
-  EXPECT_EQ(Valeur("nomAssJA"), Cp("Liste des associés JA : \\par - Paul\\par"));
-  EXPECT_EQ(Valeur("nbAssJA"), "1");
-  EXPECT_EQ(Valeur("nomSocAss"), Cp("Nom société : GAEC DES CHAMPS\\par - Pierre\\par - Paul\\par"));
-  EXPECT_EQ(Valeur("nomAss1"), "Pierre");
-  EXPECT_EQ(Valeur("nomAss2"), "JA : Paul");
-  EXPECT_EQ(Valeur("nomAss3"), "\\~");
-}
-
-TEST_F(ChampsGeneraux, ExploitationIndividuelleGardeLaPremiereLigne) {
-  Info().NbAssocies = 2;
-  Info().NomAssocie[1] = "Pierre";
-  EXPECT_EQ(Valeur("nomSocAss"), Cp("Nom société : GAEC DES CHAMPS\\par"));
-  EXPECT_EQ(Valeur("associes"), Cp("Liste des associés : \\par"));
-  EXPECT_EQ(Valeur("nbAssJA"), "0");
-  EXPECT_EQ(Valeur("nomAss1"), "\\~");
+  Valeurs({{"associes", Cp("Liste des associés : \\par - Pierre, né(e) le : 01/02/1980\\par "
+                           "- Paul, Jeune Agriculteur\\par")},
+           {"nomAssocies", Cp("Nom des associés : \\par - Pierre\\par - Paul\\par")},
+           {"assNesLe", Cp("Date de naissance des associés : \\par - Pierre : 01/02/1980\\par "
+                           "- Paul : non renseignée\\par")},
+           {"situAss", Cp("Situation familiale des associés : \\par - Pierre : Célibataire\\par - Paul : Marié\\par")},
+           {"nomAssJA", Cp("Liste des associés JA : \\par - Paul\\par")}, {"nbAssJA", "1"},
+           {"nomSocAss", Cp("Nom société : GAEC DES CHAMPS\\par - Pierre\\par - Paul\\par")},
+           {"nomAss1", "Pierre"}, {"nomAss2", "JA : Paul"}, {"nomAss3", "\\~"}});
+  Info().TypeExploitation = 0;  // an individual farm keeps the first line only
+  Valeurs({{"nomSocAss", Cp("Nom société : GAEC DES CHAMPS\\par")}, {"associes", Cp("Liste des associés : \\par")},
+           {"nbAssJA", "0"}, {"nomAss1", "\\~"}});
 }
 
 TEST_F(ChampsGeneraux, PlusDeDixAssociesBornesADix) {
   Societe();
   Info().NbAssocies = 25;
-  for (int i = 1; i <= 10; ++i) Info().NomAssocie[i] = "A" + std::to_string(i);
-  std::string attendu = Cp("Nom des associés : \\par ");
-  for (int i = 1; i <= 10; ++i) attendu += "- A" + std::to_string(i) + "\\par ";
-  EXPECT_EQ(Valeur("nomAssocies"), attendu.substr(0, attendu.size() - 1));
-  EXPECT_EQ(Valeur("nbAssocies"), "25");
-  EXPECT_EQ(Valeur("nomAss10"), "A10");
+  std::string attendu = Cp("Nom des associés : \\par");
+  for (int i = 1; i <= 10; ++i) {
+    Info().NomAssocie[i] = "A" + std::to_string(i);
+    attendu += " - A" + std::to_string(i) + "\\par";
+  }
+  Valeurs({{"nomAssocies", attendu}, {"nbAssocies", "25"}, {"nomAss10", "A10"}});
   Info().NbAssocies = -3;
   EXPECT_EQ(Valeur("nomAssocies"), Cp("Nom des associés : \\par"));
 }
 
-TEST_F(ChampsGeneraux, FamillesNumeroteesExactes) {
-  EXPECT_EQ(Valeur("nomAss01"), "#tvl(nomAss01)#");
-  EXPECT_EQ(Valeur("nomAss0"), "#tvl(nomAss0)#");
-  EXPECT_EQ(Valeur("modeCom7"), "#tvl(modeCom7)#");
-  EXPECT_EQ(Valeur("date10"), "#tvl(date10)#");
-  EXPECT_EQ(messages.messages.size(), 4u);
-}
-
-TEST_F(ChampsGeneraux, DescriptionDuProjet) {
+TEST_F(ChampsGeneraux, DescriptionCheminDeviseModesEtSautDePage) {
   Info().DescriptionProjet = "Ligne un  \r\n  Ligne deux\r\nTrois\r\nQuatre\r\nCinq      ";
-  EXPECT_EQ(Valeur("descProjet"), "Ligne un\\par\n  Ligne deux\\par\nTrois\\par\nQuatre\\par\nCinq");
-  EXPECT_EQ(Valeur("descProjet1"), "Ligne un");
-  EXPECT_EQ(Valeur("descProjet2"), "\n  Ligne deux");
-  EXPECT_EQ(Valeur("descProjet4etFin"), "\nQuatre \nCinq");
-  Info().DescriptionProjet = "Tout sur une ligne   ";
-  EXPECT_EQ(Valeur("descProjet1"), "Tout sur une ligne");
-  EXPECT_EQ(Valeur("descProjet2"), "\\~");
-  EXPECT_EQ(Valeur("descProjet4etFin"), "\\~");
-}
-
-TEST_F(ChampsGeneraux, CheminDeviseEtNombres) {
   Info().CheminDossierTervol = "C:\\Etudes\\DUPONT.TVL\\   ";
-  EXPECT_EQ(Valeur("cheminDoss"), "C:\\\\Etudes\\\\DUPONT.TVL\\\\");
-  EXPECT_EQ(Valeur("devise"), "Franc");
   Info().Devise = 1;
-  EXPECT_EQ(Valeur("devise"), "\x80uro");
-  Info().NbAnEtude = 5;
-  Info().MoisTva = 3;
-  EXPECT_EQ(Valeur("nbAnEtude"), "5");
-  EXPECT_EQ(Valeur("moisTva"), "3");
-}
-
-TEST_F(ChampsGeneraux, ModesDeCommercialisation) {
+  Info().ModeCom[0] = {"Jamais lu", "x"};
   Info().ModeCom[1] = {"Lait", "Coop"};
   Info().ModeCom[2] = {"Viande", "   "};
   Info().ModeCom[4] = {"Oeufs", "Vente directe"};
-  Info().ModeCom[0] = {"Jamais lu", "x"};
-  EXPECT_EQ(Valeur("modeCom"), Cp("Mode de commercialisation des produits de l'exploitation : \\par "
-                                   "- Lait : Coop\\par - Viande : non renseigné\\par - Oeufs : Vente directe\\par"));
-  EXPECT_EQ(Valeur("modeCom1"), "- Lait : Coop");
-  EXPECT_EQ(Valeur("modeCom2"), "\\~");  // the product alone gives a blank
-  EXPECT_EQ(Valeur("modeCom3"), "\\~");
-  EXPECT_EQ(Valeur("modeCom4"), "- Oeufs : Vente directe");
+  Valeurs({{"descProjet", "Ligne un\\par\n  Ligne deux\\par\nTrois\\par\nQuatre\\par\nCinq"},
+           {"descProjet1", "Ligne un"}, {"descProjet2", "\n  Ligne deux"}, {"descProjet4etFin", "\nQuatre \nCinq"},
+           {"cheminDoss", "C:\\\\Etudes\\\\DUPONT.TVL\\\\"}, {"devise", "\x80uro"},
+           {"modeCom", Cp("Mode de commercialisation des produits de l'exploitation : \\par - Lait : Coop\\par "
+                          "- Viande : non renseigné\\par - Oeufs : Vente directe\\par")},
+           {"modeCom1", "- Lait : Coop"}, {"modeCom2", "\\~"},  // the product alone gives a blank
+           {"modeCom3", "\\~"}, {"modeCom4", "- Oeufs : Vente directe"}});
+  Info().DescriptionProjet = "Tout sur une ligne   ";
+  Info().Devise = 0;
+  Valeurs({{"descProjet1", "Tout sur une ligne"}, {"descProjet2", "\\~"}, {"descProjet4etFin", "\\~"},
+           {"devise", "Franc"}});
+  EXPECT_EQ(Interpreter("{a#tvl(saut2page)#}"), "{a\\page}");
 }
 
 TEST_F(ChampsGeneraux, DateDuDossierCoupeANeufCaracteres) {
-  DossierTemporaire temporaire;
   temporaire.Ecrire("ESSAI.TVL/ESSAI.TVL", "");
   const auto quand = std::chrono::system_clock::from_time_t(MomentLocal(2024, 3, 5, 12, 0, 0));
-  std::filesystem::last_write_time(temporaire / "ESSAI.TVL",
-                                   std::chrono::file_clock::from_sys(quand));
+  std::filesystem::last_write_time(temporaire / "ESSAI.TVL", std::chrono::file_clock::from_sys(quand));
   // The record keeps the folder with a closing separator, which is dropped.
   Info().CheminDossierTervol = temporaire / "essai.tvl\\   ";
   EXPECT_EQ(Valeur("dateDossier"), "05/03/202");
@@ -149,7 +108,75 @@ TEST_F(ChampsGeneraux, DateDuDossierCoupeANeufCaracteres) {
   EXPECT_EQ(Valeur("dateDossier"), "\\~");
 }
 
-TEST_F(ChampsGeneraux, SautDePage) { EXPECT_EQ(Interpreter("{a#tvl(saut2page)#}"), "{a\\page}"); }
+TEST_F(ChampsGeneraux, DatesDExercice) {
+  // Exercise 0 is the year before the study; a study starting on 1 January
+  // reads the year of its end one too high.
+  const std::tuple<std::string, std::string, std::string> cas[] = {
+      {"01/01/2005", "date0", Cp("Jan. 2004 - Déc. 2004")}, {"01/01/2005", "date1", Cp("Jan. 2005 - Déc. 2005")},
+      {"01/01/2005", "date9", Cp("Jan. 2013 - Déc. 2013")}, {"01/01/2005", "an4Fin1", "2006"},
+      {"01/01/2005", "an2Fin1", "06"}, {"01/01/2005", "mois2Fin1", "12"}, {"01/01/2005", "an4Deb1", "2005"},
+      {"01/08/2005", "date1", Cp("Août 2005 - Juil. 2006")}, {"01/08/2005", "moisCDeb1", Cp("Août")},
+      {"01/08/2005", "moisCFin1", "Juil."}, {"01/08/2005", "mois2Deb1", "08"}, {"01/08/2005", "mois2Fin1", "07"},
+      {"01/08/2005", "an4Deb1", "2005"}, {"01/08/2005", "an4Fin1", "2006"}, {"01/08/2005", "an2Deb0", "04"},
+      {"29/02/2008", "date1", Cp("Fév. 2008 - Fév. 2009")}, {"29/02/2008", "date2", Cp("Fév. 2009 - Fév. 2010")},
+      {"          ", "date1", "\\~"}, {"          ", "an4Deb1", "\\~"}, {"31/02/2005", "moisCDeb1", "\\~"}};
+  for (const auto& [debut, code, attendu] : cas) {
+    Info().DateDebut = debut;
+    EXPECT_EQ(Valeur(code), attendu) << debut << " " << code;
+  }
+  EXPECT_EQ(MoisClair(0) + MoisClair(13), "");
+}
+
+TEST_F(ChampsGeneraux, AgeEnAnneesAMoisDeTrenteJoursEtDemi) {
+  // Today is 22/11/2026; the day count is held within 16 bits.
+  for (const auto& [naissance, age] : Cas{{"22/11/1986", "40"}, {"23/11/1986", "39"}, {"**/**/****", "??"},
+                                          {"          ", "??"}, {"01/01/1900", "89"}}) {
+    Info().DateNaissance[0] = naissance;
+    EXPECT_EQ(Valeur("ageExplJA"), age) << naissance;
+  }
+  // 29 + 30.5 x 11 + 365 x 29 = 10949.5 days, taken as the 16-bit 10950:
+  // 30 years by the rule, although the calendar says 29.
+  maintenant = MomentLocal(2026, 12, 30, 9, 0, 0);
+  Info().DateNaissance[0] = "01/01/1997";
+  EXPECT_EQ(Valeur("ageExplJA"), "30");
+  Societe();  // the age of the first JA associate
+  Info().AssocieJA[3] = 1;
+  Info().DateNaissance[3] = "01/06/2000";
+  EXPECT_EQ(Valeur("ageExplJA"), "26");
+}
+
+TEST_F(ChampsGeneraux, OrganisationsParChampEtIndex) {
+  for (int i = 0; i < 20; ++i) {
+    const std::string n = std::to_string(i);
+    auto& o = session.Organisations[i];
+    std::tie(o.Nom, o.Ville, o.Sigle, o.Rue, o.Telephone, o.Fax) =
+        std::make_tuple("Nom" + n + "   ", "Ville" + n, "S" + n, "Rue" + n, "Tel" + n, "Fax" + n);
+  }
+  // A field ending in "1" gives it to the index: 0 to 19.
+  Valeurs({{"ORGANOM12", "Nom12"}, {"ORGANOM1", "Nom1"}, {"ORGANOM0", "Nom0"}, {"ORGASIGLE19", "S19"},
+           {"ORGARUE5", "Rue5"}, {"ORGATEL3", "Tel3"}, {"ORGAFAX10", "Fax10"}, {"orgavillE1", "Ville1"},
+           {"OrgaNom7", "Nom7"}, {"ORGAPAYS1", "??"}, {"ORGA", "??"}, {"ORGALOGO2", "\\~"}});
+  EXPECT_TRUE(messages.messages.empty());
+}
+
+TEST_F(ChampsGeneraux, LogoIncorporeOuParLePortDImages) {
+  session.Organisations[2].Logo = temporaire / "absent.png";
+  EXPECT_EQ(Valeur("ORGALOGO2"), "\\~");
+  construction::EcrirePng(temporaire / "logo.png", {});
+  session.Organisations[3].Logo = temporaire / "logo.png" + "      ";
+  EXPECT_EQ(Valeur("ORGALOGO3").rfind("{\\pict\\pngblip\\picw", 0), 0u);
+  struct ImagesFixes : PortImages {
+    std::string recu;
+    std::string ImageVersRtf(const std::string& chemin) override {
+      recu = chemin;
+      return "{\\pict PORT}";
+    }
+  } images;
+  generation.images = &images;
+  session.Organisations[4].Logo = "C:\\Logos\\cerfrance.bmp   ";
+  EXPECT_EQ(Valeur("ORGALOGO4"), "{\\pict PORT}");
+  EXPECT_EQ(images.recu, "C:\\Logos\\cerfrance.bmp");
+}
 
 }  // namespace
 }  // namespace norvane::test

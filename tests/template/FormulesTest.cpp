@@ -1,23 +1,24 @@
 // The formula calculator against a dossier written by the study-file builder:
 // formule: codes, LG(file-record) references with their years, LGn lines of
-// a table, and the boxes of malformed formulas.
+// a table, the boxes of malformed formulas, the arithmetic, the number's text,
+// and random formulas.
 #include "template/Formules.h"
 
-#include <gtest/gtest.h>
+#include <cmath>
+#include <limits>
+#include <random>
+#include <tuple>
 
-#include <string>
-#include <vector>
-
-#include "construction/FichiersEtude.h"
 #include "frame/DossierTemporaire.h"
-#include "frame/PortsScriptes.h"
+#include "frame/FormatNombre.h"
+#include "template/BancInterpreteur.h"
 
-namespace norvane {
+namespace norvane::test {
 namespace {
 
 using construction::Serie;
 
-const std::string kNonCalculee = "<Code Mal renseign\xE9 : valeur non calcul\xE9" "e>";
+const std::string kNonCalculee = Cp("<Code Mal renseigné : valeur non calculée>");
 
 // Lines of a table in hand: line n of year a holds n * 100 + a.
 class LignesEssai : public LignesTableau {
@@ -33,13 +34,14 @@ class ActiviteEssai : public EntitesCourantes {
   std::string NumActivite2Chiffres() const override { return "07"; }
 };
 
+using Formule = std::tuple<std::string, int16_t, std::string>;  // {formula, year, expected}
+
 // RES.DON: record 17 "Produit brut", 18 "Charges", 19 with a blank label,
 // 20 negative, 21 a label of NUL bytes, 22 a label that looks like a reference.
 // AL07AL.DON: the free activity's file.
-class Formules : public ::testing::Test {
+class Formules : public BancInterpreteur {
  protected:
   void SetUp() override {
-    ASSERT_FALSE(racine_.Chemin().empty());
     std::vector<SerieDonnees> res(16);
     res.push_back(Serie("RES-17:0", "Produit brut|\x80", {1000, 1100, 1200.4f, 1300, 1400}));
     res.push_back(Serie("RES-18:0", "Charges|\x80", {10, 20, 300.3f, 40, 50}));
@@ -47,231 +49,244 @@ class Formules : public ::testing::Test {
     res.push_back(Serie("RES-20:2", "Solde", {-5, -5, -5, -5}));
     res.push_back(Serie("RES-21:0", std::string(22, '\0'), {}));
     res.push_back(Serie("RES-22:0", "LG(RES-17)", {}));
-    construction::EcrireSeries(racine_ / "ESSAI.TVL/RES.DON", res);
-    construction::EcrireSeries(racine_ / "ESSAI.TVL/AL07AL.DON",
+    DossierEssai(racine.Chemin(), res);
+    construction::EcrireSeries(racine / "ESSAI.TVL/AL07AL.DON",
                                {Serie("AL-1:0", "Vaches", {7, 8, 9}), Serie("AL-2:0", "Lait|l", {70, 80, 90})});
-    session_.RepDossier[0] = racine_.Chemin();
-    session_.NomDossier[0] = "ESSAI.TVL";
+    generation.entites = &activite;
+  }
+  // Each formula of the table calculated, or its references replaced.
+  void Calculs(const std::vector<Formule>& cas) {
+    for (const auto& [f, annee, attendu] : cas) EXPECT_EQ(CalculerFormule(generation, f, annee), attendu) << f;
+  }
+  void Remplacements(const std::vector<Formule>& cas) {
+    for (const auto& [f, annee, attendu] : cas) EXPECT_EQ(RemplacerReferences(generation, f, annee), attendu) << f;
   }
 
-  std::string Code(const std::string& code) { return ValeurCodeFormule(generation_, code); }
-  std::string Calcul(const std::string& formule, int16_t annee) { return CalculerFormule(generation_, formule, annee); }
-  std::string Remplacer(const std::string& formule, int16_t annee) {
-    return RemplacerReferences(generation_, formule, annee);
-  }
-
-  test::DossierTemporaire racine_;
-  Session session_;
-  MessagesScriptes messages_;
-  ProgressionMuette progression_;
-  ActiviteEssai activite_;
-  LignesEssai lignes_;
-  Generation generation_{session_, messages_, progression_, activite_};
+  DossierTemporaire racine;
+  ActiviteEssai activite;
+  LignesEssai lignes;
 };
 
-TEST_F(Formules, SumOfTwoSeriesOfTheCodesYearWithNoDecimals) {
-  EXPECT_EQ(Code("formule:2a:LG(RES-17)+LG(RES-18):0"), "1\xA0" "501");
-  EXPECT_EQ(Code("formule:1a:LG(RES-17)+LG(RES-18):2"), "1\xA0" "120,00");
-  EXPECT_TRUE(messages_.messages.empty());
+TEST_F(Formules, CodesFormule) {
+  for (const auto& [code, attendu] : Cas{
+           {"formule:2a:LG(RES-17)+LG(RES-18):0", "1\xA0" "501"},  // year 2, no decimals
+           {"formule:1a:LG(RES-17)+LG(RES-18):2", "1\xA0" "120,00"},
+           {"formule: 3a:LG(RES-17)", "1\xA0" "300"},  // the year is the trimmed text before the "a"
+           {"formule:12a:LG(RES-17):1", "0,0"},
+           {"formule:3a:LG(RES-17!A0)*2", "2\xA0" "000"},  // a fixed year
+           {"formule:3a:LG(RES-17!A4)-LG(RES-17)", "100"},
+           {"formule:1a:100/3:2", "33,33"}, {"formule:1a:10/4", "2,5"}, {"formule:1a:2,5*2", "5"},
+           {"formule:1a:1/0:2", "0,00"}, {"formule:1a:n'importe quoi", "0"}}) {
+    EXPECT_EQ(ValeurCodeFormule(generation, code), attendu) << code;
+  }
+  EXPECT_TRUE(messages.messages.empty());
 }
 
-TEST_F(Formules, FormulaWithoutReferences) {
-  EXPECT_EQ(Code("formule:1a:100/3:2"), "33,33");
-  EXPECT_EQ(Code("formule:1a:10/4"), "2,5");
-  EXPECT_EQ(Code("formule:1a:2,5*2"), "5");
-  EXPECT_EQ(Code("formule:1a:1/0:2"), "0,00");
-  EXPECT_EQ(Code("formule:1a:n'importe quoi"), "0");
+TEST_F(Formules, CalculsSurLesSeries) {
+  Calculs({{"2/3:3", 1, "0,667"}, {"2/3:", 1, "1"}, {"2/3", 1, "0,67"},  // decimals behind the second ":"
+           {"LG(RES-17!A-1)", 3, "1\xA0" "200,4"},                      // the year before
+           {"LG(RES-17)+1", 14, "1"}, {"LG(RES-17!A20)+1", 2, "1"},     // years outside the record read 0
+           {"LG(RES-17!A-1)+1", 0, "1"}, {"LG(RES-17)+LG(RES-18)", 13, "0"},
+           {"10-LG(RES-20)", 1, "15"}, {"LG(RES-20)^2", 1, "25"},  // negative values keep their sign
+           {"LG(RES-18)_*_2", 1, "40"}, {"LG(AL-2)", 1, "80"},     // "_" a blank; AL the free activity's file
+           {"LG(RES-999)+1", 1, "1"}, {"LG(ABSENT-1)+1", 1, "1"}});
+  EXPECT_TRUE(messages.messages.empty());
+  EXPECT_TRUE(messages.questions.empty());
 }
 
-TEST_F(Formules, YearSpecIsTheTrimmedTextBeforeTheA) {
-  EXPECT_EQ(Code("formule: 3a:LG(RES-17)"), "1\xA0" "300");
-  EXPECT_EQ(Code("formule:12a:LG(RES-17):1"), "0,0");
+TEST_F(Formules, RemplacementsEtLibellesPourLAffichage) {
+  Remplacements({{"10-LG(RES-20)", 1, "10--5"}, {"LG(RES-18)_*_2", 1, "20 * 2"}, {"LG(AL-1)", -1, "Vaches"},
+                 {"LG(RES-17)+LG(RES-18!A-1)", -1, "Produit brut|\x80+Charges|\x80"},
+                 {"LG(RES-19)", -2, "Enregistrement n\xB0" "19 de RES"},
+                 {"LG(RES-21)", -1, "Enregistrement n\xB0" "21 de RES"},
+                 {"LG(RES-999)", -1, "Enregistrement n\xB0" "999 de RES"},
+                 {"LG(RES-22)+LG(RES-22)", -1, "LG(RES-17)+LG(RES-17)"}});  // a label is not scanned again
+  std::string libelle = "RES-17!A3", valeur = "RES-17!A4";  // both lose their year
+  EXPECT_EQ(LibelleLigne(generation, libelle) + libelle, "Produit brut|\x80RES-17");
+  EXPECT_FLOAT_EQ(ValeurLigne(generation, valeur, 1), 1400.0f);
+  EXPECT_FLOAT_EQ(ValeurLigne(generation, valeur, 2), 1200.4f);
 }
 
-TEST_F(Formules, DecimalsTextBehindTheSecondColon) {
-  EXPECT_EQ(Calcul("2/3:3", 1), "0,667");
-  EXPECT_EQ(Calcul("2/3:", 1), "1");
-  EXPECT_EQ(Calcul("2/3", 1), "0,67");
+TEST_F(Formules, LignesDuTableauEnMain) {
+  Calculs({{"LG5+1", 2, "1"}});  // no table: no line
+  EXPECT_EQ(RemplacerReferences(generation, "LG5", -1), "");
+  generation.lignes = &lignes;
+  Remplacements({{"LG5+1", 2, "502+1"}, {"LG5_+LG6", -1, "Ligne 5 +Ligne 6"}, {"LG511+LG512+LG0", 15, "51115+0+0"},
+                 {"LG5+1", 16, "0+1"},
+                 // The line number ends at every end character.
+                 {"LG1-LG2*LG3/LG4(LG5)LG6\xB2LG7^LG8&LG9|LG1:LG2 LG3", 0,
+                  "100-200*300/400(500)600\xB2" "700^800&900|100:200 300"}});
+  Calculs({{"LG5+LG6", 2, "1\xA0" "104"}, {"(LG5)*LG1/LG2", 0, "250"}, {"LG(RES-17!A-1)", 3, "1\xA0" "200,4"}});
+  EXPECT_TRUE(messages.messages.empty());
+  EXPECT_TRUE(messages.questions.empty());
 }
 
-TEST_F(Formules, MissingColonGivesTheBoxAndThePlaceholder) {
-  EXPECT_EQ(Code("formule:2aLG(RES-17)"), kNonCalculee);
-  ASSERT_EQ(messages_.messages.size(), 1u);
-  const MessageEnregistre& m = messages_.messages[0];
-  EXPECT_EQ(m.titre, "Erreur détectée :  cliquez Fermer pour continuer");
-  EXPECT_EQ(m.texte,
-            "La portion de code \"formule:2aLG(RES-17)\" dans le modèle est mal renseignée : il manque le caractère "
-            "\":\" séparant l'année d'étude de la formule à calculer.");
-  EXPECT_EQ(m.conseil, "Modifier le modèle de document pour que l'erreur n'apparaisse plus.");
-  EXPECT_EQ(m.style, "");
-}
-
-TEST_F(Formules, MissingAGivesTheBoxAndThePlaceholder) {
-  EXPECT_EQ(Code("formule:2:LG(RES-17)"), kNonCalculee);
-  ASSERT_EQ(messages_.messages.size(), 1u);
-  EXPECT_EQ(messages_.messages[0].texte,
-            "La portion de code \"formule:2:LG(RES-17)\" dans le modèle est mal renseignée : il manque "
-            "l'indicateur \"a\" suivant l'année d'exercice sur laquelle doit être fait le calcul.");
-}
-
-TEST_F(Formules, TemplateBytesOfTheCodeReachTheBoxAsUtf8) {
-  Code("formule:ann\xE9" "e");
-  ASSERT_EQ(messages_.messages.size(), 1u);
-  EXPECT_NE(messages_.messages[0].texte.find("\"formule:année\""), std::string::npos);
-}
-
-TEST_F(Formules, FixedYearOfAReference) {
-  EXPECT_EQ(Code("formule:3a:LG(RES-17!A0)*2"), "2\xA0" "000");
-  EXPECT_EQ(Code("formule:3a:LG(RES-17!A4)-LG(RES-17)"), "100");
-}
-
-TEST_F(Formules, YearBeforeTheCurrentOne) {
-  EXPECT_EQ(Calcul("LG(RES-17!A-1)", 3), "1\xA0" "200,4");
-  generation_.lignes = &lignes_;
-  EXPECT_EQ(Calcul("LG(RES-17!A-1)", 3), "1\xA0" "200,4");
-  EXPECT_TRUE(messages_.questions.empty());
-}
-
-TEST_F(Formules, YearBeforeInATableStartingAtYearOneWarnsAndKeepsTheYear) {
-  lignes_.anneeUn = true;
-  generation_.lignes = &lignes_;
-  EXPECT_EQ(Calcul("LG(RES-17!A-1)", 3), "1\xA0" "300");
-  ASSERT_EQ(messages_.questions.size(), 1u);
-  EXPECT_EQ(messages_.questions[0].icone, Icone::Exclamation);
-  EXPECT_EQ(messages_.questions[0].boutons, Boutons::Ok);
-  EXPECT_EQ(messages_.questions[0].texte,
+TEST_F(Formules, AnneePrecedenteDansUnTableauQuiDebuteEnAnneeUn) {
+  lignes.anneeUn = true;
+  generation.lignes = &lignes;
+  Calculs({{"LG(RES-17!A-1)", 3, "1\xA0" "300"}});  // the year stays
+  ASSERT_EQ(messages.questions.size(), 1u);
+  EXPECT_EQ(messages.questions[0].icone, Icone::Exclamation);
+  EXPECT_EQ(messages.questions[0].boutons, Boutons::Ok);
+  EXPECT_EQ(messages.questions[0].texte,
             "Erreur de conception du modèle de tableau en cours d'interprétation :\n"
             "Une formule de calcul demande à ce que les valeurs d'une ligne débute à NumAnnee-1\n"
             "pour un tableau qui débute déjà à l'année début ! Modifier le modèle.");
 }
 
-TEST_F(Formules, YearsOutsideTheRecordReadZero) {
-  EXPECT_EQ(Calcul("LG(RES-17)+1", 14), "1");
-  EXPECT_EQ(Calcul("LG(RES-17!A20)+1", 2), "1");
-  EXPECT_EQ(Calcul("LG(RES-17!A-1)+1", 0), "1");
-  EXPECT_EQ(Calcul("LG(RES-17)+LG(RES-18)", 13), "0");
+TEST_F(Formules, CodeMalRenseigneBoiteEtTexteDeRemplacement) {
+  EXPECT_EQ(ValeurCodeFormule(generation, "formule:2aLG(RES-17)"), kNonCalculee);
+  const auto m = Boite();
+  EXPECT_EQ(m.titre, kErreurDetectee);
+  EXPECT_EQ(m.texte,
+            "La portion de code \"formule:2aLG(RES-17)\" dans le modèle est mal renseignée : il manque le caractère "
+            "\":\" séparant l'année d'étude de la formule à calculer.");
+  EXPECT_EQ(m.conseil, kConseilModele);
+  EXPECT_EQ(m.style, "");
+  messages.messages.clear();
+  EXPECT_EQ(ValeurCodeFormule(generation, "formule:2:LG(RES-17)"), kNonCalculee);
+  EXPECT_EQ(Boite().texte,
+            "La portion de code \"formule:2:LG(RES-17)\" dans le modèle est mal renseignée : il manque "
+            "l'indicateur \"a\" suivant l'année d'exercice sur laquelle doit être fait le calcul.");
+  messages.messages.clear();
+  ValeurCodeFormule(generation, "formule:ann\xE9" "e");  // the template's bytes reach the box as UTF-8
+  EXPECT_NE(Boite().texte.find("\"formule:année\""), std::string::npos);
 }
 
-TEST_F(Formules, NegativeValuesEnterTheFormulaWithTheirSign) {
-  EXPECT_EQ(Remplacer("10-LG(RES-20)", 1), "10--5");
-  EXPECT_EQ(Calcul("10-LG(RES-20)", 1), "15");
-  EXPECT_EQ(Calcul("LG(RES-20)^2", 1), "25");
-}
-
-TEST_F(Formules, UnderscoresAreBlanks) {
-  EXPECT_EQ(Remplacer("LG(RES-18)_*_2", 1), "20 * 2");
-  EXPECT_EQ(Calcul("LG(RES-18)_*_2", 1), "40");
-}
-
-TEST_F(Formules, FreeActivityFile) {
-  EXPECT_EQ(Calcul("LG(AL-2)", 1), "80");
-  EXPECT_EQ(Remplacer("LG(AL-1)", -1), "Vaches");
-}
-
-TEST_F(Formules, RecordBeyondTheFileOrMissingFileReadsZero) {
-  EXPECT_EQ(Calcul("LG(RES-999)+1", 1), "1");
-  EXPECT_EQ(Calcul("LG(ABSENT-1)+1", 1), "1");
-  EXPECT_TRUE(messages_.messages.empty());
-}
-
-TEST_F(Formules, NoDossierGivesTheBoxAndZero) {
-  session_.NomDossier[0] = "  ";
-  EXPECT_EQ(Calcul("LG(RES-17)+1", 1), "1");
-  ASSERT_EQ(messages_.messages.size(), 1u);
-  EXPECT_EQ(messages_.messages[0].titre, "Dossier Tervol non sélectionné !");
+TEST_F(Formules, SansDossierBoiteEtZero) {
+  session.NomDossier[0] = "  ";
+  Calculs({{"LG(RES-17)+1", 1, "1"}});
+  EXPECT_EQ(Boite().titre, "Dossier Tervol non sélectionné !");
   const std::string fin = "afin de pouvoir récupérer les valeurs des fichiers .DON du dossier ! Merci.";
-  const std::string& texte = messages_.messages[0].texte;
-  ASSERT_GE(texte.size(), fin.size());
-  EXPECT_EQ(texte.substr(texte.size() - fin.size()), fin);
+  const std::string texte = Boite().texte;
+  EXPECT_EQ(texte.substr(texte.size() - std::min(texte.size(), fin.size())), fin);
 }
 
-TEST_F(Formules, LabelsOfReferencesForTheDisplayOfAFormula) {
-  EXPECT_EQ(Remplacer("LG(RES-17)+LG(RES-18!A-1)", -1), "Produit brut|\x80+Charges|\x80");
-  EXPECT_EQ(Remplacer("LG(RES-19)", -2), "Enregistrement n\xB0" "19 de RES");
-  EXPECT_EQ(Remplacer("LG(RES-21)", -1), "Enregistrement n\xB0" "21 de RES");
-  EXPECT_EQ(Remplacer("LG(RES-999)", -1), "Enregistrement n\xB0" "999 de RES");
-}
-
-TEST_F(Formules, ALabelHoldingLGIsNotScannedAgain) {
-  EXPECT_EQ(Remplacer("LG(RES-22)+LG(RES-22)", -1), "LG(RES-17)+LG(RES-17)");
-}
-
-TEST_F(Formules, LibelleLigneCutsTheYearOffTheReference) {
-  std::string reference = "RES-17!A3";
-  EXPECT_EQ(LibelleLigne(generation_, reference), "Produit brut|\x80");
-  EXPECT_EQ(reference, "RES-17");
-}
-
-TEST_F(Formules, ValeurLigneReadsTheColumnOfTheYear) {
-  std::string reference = "RES-17!A4";
-  EXPECT_FLOAT_EQ(ValeurLigne(generation_, reference, 1), 1400.0f);
-  EXPECT_EQ(reference, "RES-17");
-  EXPECT_FLOAT_EQ(ValeurLigne(generation_, reference, 2), 1200.4f);
-}
-
-TEST_F(Formules, LinesOfTheTableInHand) {
-  generation_.lignes = &lignes_;
-  EXPECT_EQ(Remplacer("LG5+1", 2), "502+1");
-  EXPECT_EQ(Calcul("LG5+LG6", 2), "1\xA0" "104");
-  EXPECT_EQ(Calcul("(LG5)*LG1/LG2", 0), "250");
-  EXPECT_EQ(Remplacer("LG5_+LG6", -1), "Ligne 5 +Ligne 6");
-  EXPECT_EQ(Remplacer("LG511+LG512+LG0", 15), "51115+0+0");
-  EXPECT_EQ(Remplacer("LG5+1", 16), "0+1");
-  EXPECT_TRUE(messages_.messages.empty());
-}
-
-TEST_F(Formules, LineNumberEndsAtEveryEndCharacter) {
-  generation_.lignes = &lignes_;
-  EXPECT_EQ(Remplacer("LG1-LG2*LG3/LG4(LG5)LG6\xB2LG7^LG8&LG9|LG1:LG2 LG3", 0),
-            "100-200*300/400(500)600\xB2" "700^800&900|100:200 300");
-}
-
-TEST_F(Formules, LinesWithoutATableAreZero) {
-  EXPECT_EQ(Calcul("LG5+1", 2), "1");
-  EXPECT_EQ(Remplacer("LG5", -1), "");
-}
-
-TEST_F(Formules, LinesAreRefusedWhenNoTableMayExist) {
-  generation_.lignes = &lignes_;
-  EXPECT_EQ(Remplacer("LG5+1", -2), "+1");
-  ASSERT_EQ(messages_.messages.size(), 1u);
-  EXPECT_EQ(messages_.messages[0].titre, "Formule erronée. Insertion impossible.");
-  EXPECT_EQ(messages_.messages[0].texte,
+TEST_F(Formules, LignesRefuseesQuandAucunTableauNePeutExister) {
+  generation.lignes = &lignes;
+  Remplacements({{"LG5+1", -2, "+1"}});
+  EXPECT_EQ(Boite().titre, "Formule erronée. Insertion impossible.");
+  EXPECT_EQ(Boite().texte,
             "Votre formule contient le code LGn qui désigne une ligne n de tableau. \n"
             "Vous ne pouvez utiliser ce type de code ici, utilisez la formulation LG<nomFic-numEnreg>\n"
             "en sélectionnant vos séries de données directement dans l'arbre de choix ci-contre.");
 }
 
-TEST_F(Formules, MissingClosingBracketStopsTheReplacement) {
-  EXPECT_EQ(Remplacer("LG(RES-17)+LG(RES-18", 2), "1200.4+LG(RES-18");
-  ASSERT_EQ(messages_.messages.size(), 1u);
-  EXPECT_EQ(messages_.messages[0].titre, "Tableau incorrect dans le modèle de document.");
-  EXPECT_EQ(messages_.messages[0].texte, "La formule de calcul d'une ligne de total est erronée.");
-  EXPECT_EQ(messages_.messages[0].conseil, "Diagnostic : Il manque la parenthèse fermante après le code d'un LG.");
-  EXPECT_EQ(Calcul("LG(RES-17)+LG(RES-18", 2), "0");
-}
-
-TEST_F(Formules, MissingHyphenStopsTheReplacement) {
-  EXPECT_EQ(Remplacer("LG(RES17)+LG(RES-18)", -1), "LG(RES17)+LG(RES-18)");
-  ASSERT_EQ(messages_.messages.size(), 1u);
-  EXPECT_EQ(messages_.messages[0].titre, "Formule de total incorrecte.");
-  EXPECT_EQ(messages_.messages[0].conseil,
+TEST_F(Formules, ReferenceMalFormeeArreteLeRemplacement) {
+  Remplacements({{"LG(RES-17)+LG(RES-18", 2, "1200.4+LG(RES-18"}});
+  auto m = Boite();
+  EXPECT_EQ(m.titre, "Tableau incorrect dans le modèle de document.");
+  EXPECT_EQ(m.texte, "La formule de calcul d'une ligne de total est erronée.");
+  EXPECT_EQ(m.conseil, "Diagnostic : Il manque la parenthèse fermante après le code d'un LG.");
+  Calculs({{"LG(RES-17)+LG(RES-18", 2, "0"}});
+  messages.messages.clear();
+  Remplacements({{"LG(RES17)+LG(RES-18)", -1, "LG(RES17)+LG(RES-18)"}});
+  m = Boite();
+  EXPECT_EQ(m.titre, "Formule de total incorrecte.");
+  EXPECT_EQ(m.conseil,
             "Diagnostic : Concernant le code entre parenthèses d'un LG, il manque le tiret entre le nom du fichier "
             "et le numéro d'enregistrement.");
 }
 
-TEST_F(Formules, LGAloneGivesTheBoxAndTheFormulaAsItIs) {
-  generation_.lignes = &lignes_;
-  for (const char* formule : {"LG1+LG", "LG1+LG+2", "LG1+LGx", "LG1+LG_2"}) {
-    messages_.messages.clear();
-    std::string attendu = std::string("100") + (formule + 3);
-    for (char& c : attendu) c = c == '_' ? ' ' : c;
-    EXPECT_EQ(Remplacer(formule, 0), attendu) << formule;
-    ASSERT_EQ(messages_.messages.size(), 1u) << formule;
-    EXPECT_EQ(messages_.messages[0].titre, "Formule erronée.");
-    EXPECT_EQ(messages_.messages[0].texte, "Il manque le code après un LG qui n'a pas de sens écrit tout seul");
+TEST_F(Formules, LGSeulBoiteEtFormuleTelleQuelle) {
+  generation.lignes = &lignes;
+  for (const auto& [formule, attendu] : Cas{{"LG1+LG", "100+LG"}, {"LG1+LG+2", "100+LG+2"},
+                                            {"LG1+LGx", "100+LGx"}, {"LG1+LG_2", "100+LG 2"}}) {
+    messages.messages.clear();
+    EXPECT_EQ(RemplacerReferences(generation, formule, 0), attendu);
+    EXPECT_EQ(Boite().titre, "Formule erronée.");
+    EXPECT_EQ(Boite().texte, "Il manque le code après un LG qui n'a pas de sens écrit tout seul");
   }
 }
 
+TEST_F(Formules, FormulesAuHasardDonnentUnNombre) {
+  const std::string_view morceaux[] = {"LG", "LG(", "RES", "-", "17", "!A", "-1", ")", "(", "+", "*", "/", "^", ":",
+                                       "_", "a", "2", "0", ".", ",", "e", "formule:", "\xB2", "&", "|", " ", "AL",
+                                       std::string_view("\0", 1), "\xFF", "9999999"};
+  // A number's text: digits, no-break spaces, a comma, a minus.
+  const auto nombre = [](const std::string& t) {
+    return !t.empty() && t.find_first_not_of("-0123456789,\xA0") == std::string::npos;
+  };
+  generation.lignes = &lignes;
+  std::mt19937 alea(20240601);
+  for (int i = 0; i < 10000; ++i) {
+    std::string formule;
+    for (int n = alea() % 25; n > 0; --n) {
+      formule += alea() % 2 ? std::string(morceaux[alea() % std::size(morceaux)]) : std::string(1, char(alea()));
+    }
+    EXPECT_TRUE(std::isfinite(EvaluerExpression(formule))) << formule;
+    const std::string valeur = ValeurCodeFormule(generation, "formule:" + formule);
+    EXPECT_TRUE(nombre(valeur) || valeur == kNonCalculee) << formule;
+    EXPECT_TRUE(nombre(CalculerFormule(generation, formule, static_cast<int16_t>(int(alea() % 20) - 3)))) << formule;
+    messages.messages.clear();
+    messages.questions.clear();
+  }
+}
+
+TEST(EvaluerExpression, ArithmetiqueDUneCellule) {
+  const std::pair<const char*, double> cas[] = {
+      // "." is the decimal mark; a comma is none (the caller turns it into a point).
+      {"42", 42}, {"12.75", 12.75}, {".5", 0.5}, {"5.", 5}, {"1e+20", 1e20}, {"2.5E-3", 0.0025}, {"12,5", 0},
+      // Usual precedence, left to right, "^" included.
+      {"2+3*4", 14}, {"10-4-3", 3}, {"100/10/5", 2}, {"2*3^2", 18}, {"2^3^2", 64}, {"(2+3)*4", 20},
+      {"((1+2)*(3+4))/7", 3}, {"100/3", 100.0 / 3.0},
+      // Signs bind tighter than "^", as in a spreadsheet.
+      {"-2^2", 4}, {"0-2^2", -4}, {"2^-1", 0.5}, {"-(3+4)", -7}, {"3--5", 8}, {"3*-5", -15}, {"+-+-4", 4},
+      {"---4", -4},
+      // One leading "=", and blanks between tokens only.
+      {"=1+2", 3}, {"+1+2", 3}, {"  ( 1 +\t2 ) * 3  ", 9}, {"==1", 0}, {"1 2", 0}};
+  for (const auto& [texte, attendu] : cas) EXPECT_DOUBLE_EQ(EvaluerExpression(texte), attendu) << texte;
+}
+
+TEST(EvaluerExpression, CeQuiNeSeCalculePasVautZeroSansPlantage) {
+  for (const char* texte : {"", "   ", "1/0", "5/(2-2)", "0^0", "0^-1", "(-8)^(1/3)", "1e308*10", "1e999",
+                            "(1+2", "1+2)", "()", "1+", "*2", "abc", "1+x", "2 ^", "1e", "1e+", "1..2",
+                            "3\xB2", "1&2", "1|2", "nan", "inf"}) {
+    EXPECT_DOUBLE_EQ(EvaluerExpression(texte), 0.0) << texte;
+  }
+  // Nesting is bounded, long inputs are read without recursion.
+  auto imbrique = [](int n) { return std::string(n, '(') + "7" + std::string(n, ')'); };
+  EXPECT_DOUBLE_EQ(EvaluerExpression(imbrique(200)), 7.0);
+  EXPECT_DOUBLE_EQ(EvaluerExpression(imbrique(201)), 0.0);
+  EXPECT_DOUBLE_EQ(EvaluerExpression(std::string(100000, '(')), 0.0);
+  EXPECT_DOUBLE_EQ(EvaluerExpression(std::string(100000, '-') + "1"), 1.0);
+  std::string somme = "0";
+  for (int i = 0; i < 100000; ++i) somme += "+1";
+  EXPECT_DOUBLE_EQ(EvaluerExpression(somme), 100000.0);
+  EXPECT_DOUBLE_EQ(EvaluerExpression(std::string(200000, '9')), 0.0);  // beyond double range
+  EXPECT_DOUBLE_EQ(EvaluerExpression(std::string(300, '9')), 1e300);
+}
+
+TEST(FormatNombre, Formes) {
+  constexpr int16_t a = 7;  // automatic
+  constexpr float max = std::numeric_limits<float>::max(), infini = std::numeric_limits<float>::infinity();
+  // Zero is one blank only when asked for; what rounds to zero is printed.
+  EXPECT_EQ(FormatNombre(0.0f, 2, true) + FormatNombre(-0.0f, 2, true) + FormatNombre(-infini, 2, true), "   ");
+  EXPECT_EQ(FormatNombre(0.001f, 2, true), "0,00");
+  const std::tuple<float, int16_t, std::string> cas[] = {  // {value, decimals, text}
+      {0.0f, 2, "0,00"}, {0.0f, 0, "0"}, {0.0f, a, "0"},
+      // Fixed decimals from 0 to 6, groups of thousands.
+      {12.5f, 0, "13"}, {12.5f, 1, "12,5"}, {12.5f, 3, "12,500"}, {1.25f, 4, "1,2500"}, {0.1f, 5, "0,10000"},
+      {3.141593f, 6, "3,141593"}, {1234.5f, 2, "1\xA0" "234,50"}, {999.0f, 0, "999"}, {1000.0f, 0, "1\xA0" "000"},
+      {123456.0f, 0, "123\xA0" "456"}, {1234567.0f, 0, "1\xA0" "234\xA0" "567"},
+      // Half away from zero, on the shortest text (1.005f reads "1.005"); the carry runs into the groups.
+      {2.5f, 0, "3"}, {-2.5f, 0, "-3"}, {0.125f, 2, "0,13"}, {1.005f, 2, "1,01"}, {1.004f, 2, "1,00"},
+      {999.999f, 2, "1\xA0" "000,00"}, {99999.5f, 0, "100\xA0" "000"}, {0.96f, 1, "1,0"},
+      // Negative numbers; one that rounds to zero loses its sign.
+      {-1234.5f, 2, "-1\xA0" "234,50"}, {-0.5f, a, "-0,5"}, {-0.001f, 2, "0,00"}, {-0.4f, 0, "0"},
+      // Automatic (any decimals outside 0..6): at most two decimals.
+      {12.5f, a, "12,5"}, {12.05f, a, "12,05"}, {12.004f, a, "12"}, {12.0f, a, "12"}, {3.10001f, a, "3,1"},
+      {3.14159f, a, "3,14"}, {2.996f, a, "3,00"}, {1234.56f, a, "1\xA0" "234,56"}, {12.05f, -1, "12,05"},
+      {12.05f, 8, "12,05"}, {12.004f, 32767, "12"},
+      // Large and tiny numbers use the shortest digits; NaN and infinity print as zero.
+      {16777216.0f, 0, "16\xA0" "777\xA0" "216"},
+      {1e20f, 0, "100\xA0" "000\xA0" "000\xA0" "000\xA0" "000\xA0" "000\xA0" "000"}, {0.00001f, a, "0"},
+      {0.00001f, 5, "0,00001"}, {0.000005f, 5, "0,00001"}, {std::numeric_limits<float>::denorm_min(), 6, "0,000000"},
+      {std::nanf(""), 2, "0,00"}, {infini, 0, "0"}};
+  for (const auto& [valeur, decimales, texte] : cas) EXPECT_EQ(FormatNombre(valeur, decimales, false), texte) << valeur;
+  EXPECT_EQ(FormatNombre(max, a, false).substr(0, 9), "340\xA0" "282\xA0" "3");
+  EXPECT_EQ(FormatNombre(-max, 2, false).size(), 1 + 39 + 12 + 3u);
+}
+
 }  // namespace
-}  // namespace norvane
+}  // namespace norvane::test
