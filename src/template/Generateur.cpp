@@ -18,6 +18,14 @@ namespace {
 
 constexpr std::size_t kLimiteCollage = 20000;
 
+// A bookmark end that a word processor put inside the start mark, and the
+// text it becomes: the bookmark moved in front of the mark.
+constexpr std::pair<std::string_view, std::string_view> kSignetsDansMarque[] = {
+    {"#tvl{\\*\\bkmkend DDE_LINK}(", "{\\*\\bkmkend DDE_LINK}#tvl("},
+    {"#tvl{\\*\\bkmkend DDE_LINK1}(", "{\\*\\bkmkend DDE_LINK1}#tvl("},
+    {"#tvl{\\*\\bkmkend DDE_LINK2}(", "{\\*\\bkmkend DDE_LINK2}#tvl("},
+};
+
 class Creation : public ParcoursMorceaux {
  public:
   using ParcoursMorceaux::ParcoursMorceaux;
@@ -67,19 +75,13 @@ class Creation : public ParcoursMorceaux {
     }
   }
 
-  // A bookmark end that a word processor put inside the start mark is moved
-  // in front of it, once for each form.
+  // Bookmarks inside a start mark are moved out, once for each form a round.
   void ReparerSignets() {
-    static constexpr std::pair<std::string_view, std::string_view> kFormes[] = {
-        {"#tvl{\\*\\bkmkend DDE_LINK}(", "{\\*\\bkmkend DDE_LINK}#tvl("},
-        {"#tvl{\\*\\bkmkend DDE_LINK1}(", "{\\*\\bkmkend DDE_LINK1}#tvl("},
-        {"#tvl{\\*\\bkmkend DDE_LINK2}(", "{\\*\\bkmkend DDE_LINK2}#tvl("},
-    };
     for (std::size_t k = 0; k < 3; ++k) {
       const std::size_t p = morceau_.Trouver(signets_[k]);
       if (p == std::string::npos) continue;
       std::string reste(morceau_.Reste());
-      reste.replace(p - morceau_.Debut(), kFormes[k].first.size(), kFormes[k].second);
+      reste.replace(p - morceau_.Debut(), kSignetsDansMarque[k].first.size(), kSignetsDansMarque[k].second);
       morceau_.Remplacer(std::move(reste));
     }
   }
@@ -135,9 +137,9 @@ class Creation : public ParcoursMorceaux {
   RechercheMemorisee paragraphe_{"\\par", true};
   RechercheMemorisee tablePolices_{"{\\fonttbl", true};
   RechercheMemorisee tableCouleurs_{"{\\colortbl;", true};
-  RechercheMemorisee signets_[3] = {{"#tvl{\\*\\bkmkend DDE_LINK}(", false},
-                                    {"#tvl{\\*\\bkmkend DDE_LINK1}(", false},
-                                    {"#tvl{\\*\\bkmkend DDE_LINK2}(", false}};
+  RechercheMemorisee signets_[3] = {{kSignetsDansMarque[0].first, false},
+                                    {kSignetsDansMarque[1].first, false},
+                                    {kSignetsDansMarque[2].first, false}};
 };
 
 void PreparerGeneration(Generation& g) {
