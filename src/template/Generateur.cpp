@@ -184,7 +184,7 @@ std::optional<std::string> LireModele(Generation& g, const std::string& modele) 
 // twin of a .doc result.
 void Finir(Generation& g, std::string resultat, bool sansOuvrir) {
   if (g.session.options.OptimisationOOo == 1 && g.editeur && resultat.size() >= 3) {
-    g.editeur->OuvrirDocument(kEditeurOpenOffice, resultat);
+    // The OpenOffice driver loads the result itself to save it as .doc.
     resultat = resultat.substr(0, resultat.size() - 3) + "doc";
     const bool ouvertDansEditeur = IndexEditeur(g.session.options) == kEditeurOpenOffice;
     g.editeur->SauvegarderSous(!ouvertDansEditeur, kEditeurOpenOffice, resultat);
