@@ -69,8 +69,12 @@ void EditeurLigneCommande::SauvegarderSous(bool, int, const std::string& chemin)
   std::error_code ec;
   const fs::path travail = fs::temp_directory_path(ec) / ("norvane-conversion-" + std::to_string(getpid()));
   fs::create_directories(travail / "profil", ec);
+  // The document in hand is the file itself when it holds RTF under another
+  // name, else the RTF result of the same name that it converts.
   const fs::path source = travail / "document.rtf";
-  fs::copy_file(CheminReel(chemin), source, fs::copy_options::overwrite_existing, ec);
+  std::string origine = CheminReel(chemin);
+  if (!ResoudreChemin(origine)) origine = fs::path(origine).replace_extension(".rtf").string();
+  fs::copy_file(CheminReel(origine), source, fs::copy_options::overwrite_existing, ec);
   int statut = -1;
   if (!filtre.empty() && !ec) {
     statut = ExecuterProgramme({Programme(), "-env:UserInstallation=file://" + (travail / "profil").string(),
