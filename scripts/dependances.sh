@@ -15,5 +15,5 @@ if [ ${#manquants[@]} -gt 0 ]; then
   sudo=""
   [ "$(id -u)" -ne 0 ] && sudo="sudo"
   $sudo apt-get update -qq
-  DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${manquants[@]}"
+  DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq "${manquants[@]}"
 fi
