@@ -36,9 +36,11 @@ class Creation : public ParcoursMorceaux {
     if (proprietes_.Passer(morceau_, sortie_)) return Suite::PieceSuivante;
     EtendreTables();
     ReparerSignets();
-    const std::size_t debut = morceau_.Trouver(debutCode_);
-    if (debut == std::string::npos) return SansCode(i);
-    EcrireJusqua(debut);
+    const std::size_t marque = morceau_.Trouver(debutCode_);
+    if (marque == std::string::npos) return SansCode(i);
+    EcrireJusqua(marque);
+    // Writing may have dropped the consumed head: the code starts the piece.
+    const std::size_t debut = morceau_.Debut();
     const std::size_t fin = morceau_.Trouver(finCode_);
     if (fin == std::string::npos) return SansFin(i);
     std::string code = morceau_.Texte().substr(debut, fin + 2 - debut);

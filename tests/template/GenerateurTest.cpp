@@ -164,6 +164,15 @@ TEST_F(GenerateurTest, AnyTemplateEndsWithAResult) {
   }
 }
 
+// A piece glued again and again keeps its font table, which is extended at
+// each round; a code far behind it is still read whole.
+TEST_F(GenerateurTest, CodeBehindALongGluedHeadIsRead) {
+  std::string modele = "{\\fonttbl;}";
+  for (int k = 0; k < 30; ++k) modele += Repeter('a', 1000) + "#\r\n";
+  const std::string r = Generer(modele + Repeter('b', 70000) + " #tvl(commune)# fin");
+  EXPECT_NE(r.find(Repeter('b', 70000) + " Rennes\r\n fin\r\n"), std::string::npos);
+}
+
 TEST_F(GenerateurTest, HugeUnendedCodeIsReportedOnce) {
   const std::string r = Generer("debut #tvl(" + Repeter('x', 5 << 20) + "\r\nfin");
   EXPECT_EQ(messages.messages.size(), 1u);
