@@ -34,6 +34,8 @@ class PortProgression {
   virtual void DefinirPourcentage(int pourcent) = 0;
   // True once the user has asked the work in hand to stop.
   virtual bool ArretDemande() = 0;
+  // The work in hand is over: its last state stays shown.
+  virtual void Terminer() {}
 };
 
 // A progress port that shows nothing and never asks to stop.

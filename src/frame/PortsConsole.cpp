@@ -85,6 +85,12 @@ void ProgressionConsole::DefinirPourcentage(int pourcent) {
   Dessiner();
 }
 
+void ProgressionConsole::Terminer() {
+  if (!terminal_ || largeurDessinee_ == 0) return;
+  sortie_ << '\n' << std::flush;
+  largeurDessinee_ = 0;
+}
+
 void ProgressionConsole::Dessiner() {
   if (!terminal_) return;
   const std::string ligne = texte_.empty() ? std::string() : texte_ + " " + std::to_string(pourcent_) + " %";

@@ -48,6 +48,8 @@ class ProgressionConsole : public PortProgression {
   void DefinirTexte(const std::string& texte) override;
   void DefinirPourcentage(int pourcent) override;
   bool ArretDemande() override { return arret_; }
+  // Ends the progress line, so that what follows starts on a line of its own.
+  void Terminer() override;
   // Asks the work in hand to stop (from an interrupt handler, for instance).
   void DemanderArret() { arret_ = true; }
 

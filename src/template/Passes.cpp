@@ -43,6 +43,7 @@ void SuiviProgression::Terminer(const std::string& texte) {
   if (nbCodes_ <= 0) return;
   port_.DefinirPourcentage(100);
   port_.DefinirTexte(texte);
+  port_.Terminer();
 }
 
 std::string ParcoursMorceaux::Executer() {

@@ -48,9 +48,12 @@ TEST(ProgressionConsole, ALineRedrawnInPlaceOnlyOnATerminal) {
     p.DefinirTexte("Recherche");
     p.DefinirPourcentage(150);  // above 100 shows as 97, as the gauge of the windows does
     p.DefinirTexte("");
+    p.Terminer();  // nothing left drawn: no line to end
+    p.DefinirTexte("Fin");
+    p.Terminer();
   }
   EXPECT_EQ(muet.str(), "");
-  EXPECT_EQ(terminal.str(), "\rRecherche 0 %\rRecherche 97 %\r" + std::string(14, ' ') + "\r");
+  EXPECT_EQ(terminal.str(), "\rRecherche 0 %\rRecherche 97 %\r" + std::string(14, ' ') + "\r\rFin 97 %\n");
 }
 
 }  // namespace
