@@ -1,6 +1,5 @@
 #include "template/Generateur.h"
 
-#include <fstream>
 #include <utility>
 
 #include "frame/Encodage.h"
@@ -159,29 +158,6 @@ bool RemplacementRefuse(Generation& g, const std::string& resultat) {
   return r != Reponse::Oui;
 }
 
-bool EcrireResultat(Generation& g, const std::string& chemin, const std::string& texte) {
-  std::ofstream fichier(chemin, std::ios::binary | std::ios::trunc);
-  fichier.write(texte.data(), static_cast<std::streamsize>(texte.size()));
-  fichier.close();
-  if (fichier) return true;
-  g.messages.AfficherMessage("CreationDoc", kTitreErreurDetectee,
-                             "Le document résultat \"" + chemin + "\" ne peut pas être écrit.",
-                             "Vérifiez que son répertoire existe, que vous pouvez y écrire et que le document n'est "
-                             "pas ouvert en lecture seule.",
-                             "");
-  return false;
-}
-
-std::optional<std::string> LireModele(Generation& g, const std::string& modele) {
-  auto contenu = LireFichier(modele);
-  if (!contenu) {
-    g.messages.AfficherMessage("CreationDoc", kTitreErreurDetectee,
-                               "Le modèle de document \"" + modele + "\" est introuvable ou illisible.",
-                               "Vérifiez le chemin du modèle choisi pour la création.", "");
-  }
-  return contenu;
-}
-
 // Steps after the writing: conversion, opening, and the removal of the RTF
 // twin of a .doc result.
 void Finir(Generation& g, std::string resultat, bool sansOuvrir) {
@@ -212,14 +188,15 @@ ResultatDocument CreerDocument(Generation& g, const std::string& modele, const s
     return r;
   }
   if (miseAJour) return MettreAJourDocument(g, modele, resultat, sansOuvrir);
-  auto contenu = LireModele(g, modele);
+  auto contenu =
+      LireDocument(g, modele, "Le modèle de document", "Vérifiez le chemin du modèle choisi pour la création.");
   if (!contenu) return r;
   ModeleDecoupe decoupe = DecouperEnMorceaux(*contenu);
   contenu.reset();
   r.nbCodes = decoupe.nbCodes;
   Creation creation(g, std::move(decoupe), resultat);
   const std::string texte = creation.Executer();
-  r.ecrit = EcrireResultat(g, resultat, texte);
+  r.ecrit = EcrireDocument(g, resultat, texte);
   creation.Progression().Terminer("            Création terminée !");
   if (r.ecrit) Finir(g, resultat, sansOuvrir);
   return r;

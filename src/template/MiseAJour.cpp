@@ -1,6 +1,5 @@
 #include "template/MiseAJour.h"
 
-#include <fstream>
 
 #include "frame/Encodage.h"
 #include "frame/OutilsFichiers.h"
@@ -72,23 +71,15 @@ ResultatDocument MettreAJourDocument(Generation& g, const std::string& document,
                                "Enregistrez d'abord le document au format RTF, puis mettez à jour cette copie.", "");
     return r;
   }
-  auto contenu = LireFichier(document);
-  if (!contenu) {
-    g.messages.AfficherMessage("MiseAJour", kTitreErreurDetectee,
-                               "Le document \"" + document + "\" est introuvable ou illisible.",
-                               "Vérifiez le chemin du document à mettre à jour.", "");
-    return r;
-  }
+  auto contenu = LireDocument(g, document, "Le document", "Vérifiez le chemin du document à mettre à jour.");
+  if (!contenu) return r;
   ModeleDecoupe decoupe = DecouperEnMorceaux(*contenu);
   contenu.reset();
   r.nbCodes = decoupe.nbCodes;
   MiseAJour miseAJour(g, std::move(decoupe), document);
   const std::string texte = miseAJour.Executer();
   r.nbChampsMisAJour = miseAJour.NbChamps();
-  std::ofstream fichier(CheminReel(document), std::ios::binary | std::ios::trunc);
-  fichier.write(texte.data(), static_cast<std::streamsize>(texte.size()));
-  fichier.close();
-  r.ecrit = static_cast<bool>(fichier);
+  r.ecrit = EcrireDocument(g, document, texte);
   miseAJour.Progression().Terminer("        " + std::to_string(r.nbChampsMisAJour) + " champs mis à jour !");
   if (!sansOuvrir) OuvrirDocument(g, document);
   // An RTF result is final as written; any other format goes back through

@@ -1,8 +1,10 @@
 #include "template/Passes.h"
 
 #include <algorithm>
+#include <fstream>
 
 #include "frame/Encodage.h"
+#include "frame/OutilsFichiers.h"
 
 namespace norvane {
 
@@ -67,6 +69,29 @@ std::string ParcoursMorceaux::Executer() {
 void ParcoursMorceaux::EcrireJusqua(std::size_t position) {
   sortie_.Ecrire(std::string_view(morceau_.Texte()).substr(morceau_.Debut(), position - morceau_.Debut()), false);
   morceau_.Avancer(position);
+}
+
+std::optional<std::string> LireDocument(Generation& g, const std::string& chemin, const std::string& quoi,
+                                        const std::string& conseil) {
+  auto contenu = LireFichier(chemin);
+  if (!contenu) {
+    g.messages.AfficherMessage("CreationDoc", kTitreErreurDetectee,
+                               quoi + " \"" + chemin + "\" est introuvable ou illisible.", conseil, "");
+  }
+  return contenu;
+}
+
+bool EcrireDocument(Generation& g, const std::string& chemin, const std::string& texte) {
+  std::ofstream fichier(CheminReel(chemin), std::ios::binary | std::ios::trunc);
+  fichier.write(texte.data(), static_cast<std::streamsize>(texte.size()));
+  fichier.close();
+  if (fichier) return true;
+  g.messages.AfficherMessage("CreationDoc", kTitreErreurDetectee,
+                             "Le document résultat \"" + chemin + "\" ne peut pas être écrit.",
+                             "Vérifiez que son répertoire existe, que vous pouvez y écrire et que le document n'est "
+                             "pas ouvert en lecture seule.",
+                             "");
+  return false;
 }
 
 std::string CheminAbrege(const std::string& chemin) {

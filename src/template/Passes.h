@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -79,6 +80,13 @@ class ParcoursMorceaux {
   SuiviProgression progression_;
   PassageProprietes proprietes_;
 };
+
+// The whole text of a template or document; std::nullopt, after the box
+// saying that `quoi` (its French designation) cannot be read, when it cannot.
+std::optional<std::string> LireDocument(Generation& generation, const std::string& chemin, const std::string& quoi,
+                                        const std::string& conseil);
+// Writes a result; false, after the box saying so, when it cannot be written.
+bool EcrireDocument(Generation& generation, const std::string& chemin, const std::string& texte);
 
 // The target path as the progress display shows it: whole under 33
 // characters, else its first 3, "..." and its last 30.
