@@ -11,13 +11,6 @@ namespace {
 
 using namespace norvane;
 
-class MessagesMuets : public PortMessages {
- public:
-  void AfficherMessage(const std::string&, const std::string&, const std::string&, const std::string&,
-                       const std::string&) override {}
-  Reponse PoserQuestion(const std::string&, const std::string&, Boutons, Icone, int) override { return Reponse::Ok; }
-};
-
 class LignesFixes : public LignesTableau {
  public:
   float Valeur(int ligne, int annee) const override { return static_cast<float>(ligne * 100 + annee); }

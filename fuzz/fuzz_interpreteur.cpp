@@ -13,13 +13,6 @@ namespace {
 
 using namespace norvane;
 
-class MessagesMuets : public PortMessages {
- public:
-  void AfficherMessage(const std::string&, const std::string&, const std::string&, const std::string&,
-                       const std::string&) override {}
-  Reponse PoserQuestion(const std::string&, const std::string&, Boutons, Icone, int) override { return Reponse::Ok; }
-};
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* donnees, std::size_t taille) {

@@ -38,6 +38,14 @@ class PortProgression {
   virtual void Terminer() {}
 };
 
+// A message port that shows nothing and answers every question with OK.
+class MessagesMuets : public PortMessages {
+ public:
+  void AfficherMessage(const std::string&, const std::string&, const std::string&, const std::string&,
+                       const std::string&) override {}
+  Reponse PoserQuestion(const std::string&, const std::string&, Boutons, Icone, int) override { return Reponse::Ok; }
+};
+
 // A progress port that shows nothing and never asks to stop.
 class ProgressionMuette : public PortProgression {
  public:
