@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/PortsScriptes.h"
+#include "support/PortsScriptes.h"
 #include "template/Generateur.h"
 
 namespace {
@@ -19,7 +19,8 @@ namespace fs = std::filesystem;
 
 // An RTF body of `taille` bytes, with one of `codes` in turn every 200 bytes.
 std::string Modele(std::size_t taille, const std::vector<std::string>& codes) {
-  std::string t = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fswiss Arial;}}{\\colortbl;\\red0\\green0\\blue0;}\r\n";
+  std::string t =
+      "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fswiss Arial;}}{\\colortbl;\\red0\\green0\\blue0;}\r\n";
   const std::string texte = "Le r\\'e9sultat courant de l'exploitation progresse r\\'e9guli\\'e8rement. ";
   std::size_t depuisCode = 0, suivant = 0;
   while (t.size() < taille) {
@@ -66,7 +67,8 @@ void Generer(benchmark::State& state, const std::vector<std::string>& codes, boo
   EntitesCourantes entites;
   for (auto _ : state) {
     Generation g(session, messages, progression, entites);
-    ResultatDocument r = CreerDocument(g, modele, resultat, false, true, false);
+    ResultatDocument r =
+        CreerDocument(g, modele, resultat, {.miseAJour = false, .sansOuvrir = true, .demanderRemplacement = false});
     benchmark::DoNotOptimize(r);
   }
   state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(taille));

@@ -1,3 +1,14 @@
+# Warnings every new target is held to, on top of -Wall -Wextra.
+set(NORVANE_AVERTISSEMENTS_STRICTS -Wshadow -Wconversion -Wsign-conversion -Wpedantic)
+
+# norvane_avertissements_stricts(<target>): the stricter warnings on one target.
+function(norvane_avertissements_stricts cible)
+  get_target_property(sorte ${cible} TYPE)
+  if(NOT sorte STREQUAL "INTERFACE_LIBRARY")
+    target_compile_options(${cible} PRIVATE ${NORVANE_AVERTISSEMENTS_STRICTS})
+  endif()
+endfunction()
+
 # norvane_module(<name> <folder> [DEPENDS libs...])
 # One static library per subsystem folder; its sources are every .cpp of the
 # folder (sub-folders ui/, render/ and libreoffice/ are left to their own
@@ -9,6 +20,7 @@ function(norvane_module nom dossier)
     add_library(${nom} STATIC ${sources})
     target_include_directories(${nom} PUBLIC "${PROJECT_SOURCE_DIR}/src")
     target_link_libraries(${nom} PUBLIC ${M_DEPENDS})
+    norvane_avertissements_stricts(${nom})
   else()
     add_library(${nom} INTERFACE)
     target_include_directories(${nom} INTERFACE "${PROJECT_SOURCE_DIR}/src")
@@ -26,8 +38,8 @@ function(norvane_tests nom dossier)
   endif()
   add_executable(${nom} ${sources})
   target_include_directories(${nom} PRIVATE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/tests" "${PROJECT_SOURCE_DIR}/tools")
-  target_link_libraries(${nom} PRIVATE ${M_DEPENDS} GTest::gtest GTest::gmock GTest::gtest_main)
+  target_link_libraries(${nom} PRIVATE ${M_DEPENDS} norvane_support GTest::gtest GTest::gmock GTest::gtest_main)
   target_compile_definitions(${nom} PRIVATE NORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}" NORVANE_ARBRE="${NORVANE_ARBRE}")
   gtest_discover_tests(${nom} DISCOVERY_TIMEOUT 60
-    PROPERTIES ENVIRONMENT "NORVANE_EXE=$<TARGET_FILE:norvane>;NORVANE_SOURCE=${PROJECT_SOURCE_DIR}")
+    PROPERTIES ENVIRONMENT "NORVANE_EXE=${NORVANE_ARBRE}/Norvane/norvane;NORVANE_SOURCE=${PROJECT_SOURCE_DIR}")
 endfunction()

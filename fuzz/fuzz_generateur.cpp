@@ -5,7 +5,7 @@
 #include <fstream>
 #include <string>
 
-#include "frame/PortsScriptes.h"
+#include "support/PortsScriptes.h"
 #include "template/Generateur.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* donnees, size_t taille) {
@@ -16,14 +16,16 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* donnees, size_t taille) {
     return d;
   }();
   const std::string modele = (dossier / "m.tvm").string();
-  std::ofstream(modele, std::ios::binary).write(reinterpret_cast<const char*>(donnees), static_cast<std::streamsize>(taille));
+  std::ofstream(modele, std::ios::binary)
+      .write(reinterpret_cast<const char*>(donnees), static_cast<std::streamsize>(taille));
   Session session;
   session.InfoDossier.NomExploitation = "GAEC";
   MessagesScriptes messages;
   ProgressionMuette progression;
   EntitesCourantes entites;
   Generation g(session, messages, progression, entites);
-  CreerDocument(g, modele, (dossier / "r.rtf").string(), false, true, false);
-  CreerDocument(g, modele, modele, true, true, false);
+  CreerDocument(g, modele, (dossier / "r.rtf").string(),
+                {.miseAJour = false, .sansOuvrir = true, .demanderRemplacement = false});
+  CreerDocument(g, modele, modele, {.miseAJour = true, .sansOuvrir = true, .demanderRemplacement = false});
   return 0;
 }

@@ -1,7 +1,8 @@
 // Fuzz target of the series reader. The input is a code, a byte of "-"
 // position, a byte of year, a byte of study years, then the bytes of the
 // .DON file that the code reads (every code form names the same file). The
-// dossier lives in a temporary folder made once.
+// dossier lives in a temporary folder made once. The reader through the
+// generation's cache must answer as the reader without it.
 #include <stdlib.h>
 
 #include <cstddef>
@@ -10,7 +11,7 @@
 #include <fstream>
 #include <string>
 
-#include "frame/PortsScriptes.h"
+#include "support/PortsScriptes.h"
 #include "study/Series.h"
 
 namespace {
@@ -58,13 +59,21 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* donnees, std::size_t taille
   session.InfoDossier.NbAnEtude = static_cast<int16_t>(static_cast<int8_t>(donnees[fin + 3]));
   MessagesScriptes messages;
   static EntitesFixes entites;
-  ContexteSeries contexte{session, messages, entites};
-
-  std::string code = entree.substr(0, fin);
-  int16_t tiret = static_cast<int16_t>(static_cast<int8_t>(donnees[fin + 1]));
-  int16_t annee = static_cast<int16_t>(static_cast<int8_t>(donnees[fin + 2]));
-  int16_t decimales = -1;
-  LireSerie(contexte, code, tiret, annee, decimales, 0);
+  // Read without cache, then twice through one: the three answers, and what
+  // comes back in the code and decimals, must be the same.
+  CacheEtude cache;
+  std::string premiere;
+  for (CacheEtude* c : {static_cast<CacheEtude*>(nullptr), &cache, &cache}) {
+    const ContexteSeries contexte{session, messages, entites, c};
+    std::string code = entree.substr(0, fin);
+    int16_t tiret = static_cast<int16_t>(static_cast<int8_t>(donnees[fin + 1]));
+    int16_t annee = static_cast<int16_t>(static_cast<int8_t>(donnees[fin + 2]));
+    int16_t decimales = -1;
+    const std::string lu = LireSerie(contexte, code, tiret, annee, decimales, 0) + "|" + code + "|" +
+                           std::to_string(annee) + "|" + std::to_string(decimales);
+    if (c == nullptr) premiere = lu;
+    if (lu != premiere) abort();
+  }
 
   LecteurBinaire lecteur(fichier);
   SerieDonnees serie;

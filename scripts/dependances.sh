@@ -2,10 +2,11 @@
 # Installs the Debian packages that building, testing and running Norvane need.
 set -euo pipefail
 paquets=(
-  build-essential cmake pkg-config
+  build-essential cmake pkg-config clang libclang-rt-dev
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   nlohmann-json3-dev
-  libreoffice-writer-nogui poppler-utils fonts-dejavu-core
+  libreoffice-writer-nogui libreoffice-dev poppler-utils fonts-dejavu-core fonts-liberation2
+  qt6-base-dev zlib1g-dev
 )
 manquants=()
 for p in "${paquets[@]}"; do

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "frame/Ports.h"
-#include "frame/Session.h"
+#include "study/Session.h"
 
 namespace norvane {
 
@@ -17,6 +17,8 @@ struct OptionsLigne {
   std::optional<Reponse> reponse;         // --reponse=oui|non: the answer to every question
   std::vector<std::string> comparer;      // --comparer=<dossier>, slots 1 to 9
   int annees = 0;                         // --annees=N: years of the Cerfa frame
+  std::string format;                     // --format=doc|odt|pdf|rtf: the format CONVERTIR makes
+  std::string dossierSortie;              // --dossier-sortie=<dossier>: where CONVERTIR writes
   bool aide = false;                      // --help
   bool version = false;                   // --version
   std::vector<std::string> inconnues;     // options not understood

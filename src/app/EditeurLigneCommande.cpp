@@ -1,94 +1,115 @@
 #include "app/EditeurLigneCommande.h"
 
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <filesystem>
-#include <fstream>
+#include <iostream>
 
+#include "drivers/EditeurGenerateur.h"
+#include "drivers/PiloteOpenOffice.h"
+#include "frame/Editeur.h"
+#include "frame/Encodage.h"
 #include "frame/OutilsFichiers.h"
+#include "frame/RechercheEditeur.h"
 #include "frame/Texte.h"
-
-extern char** environ;
+#ifdef NORVANE_AVEC_LIBREOFFICE
+#include "drivers/libreoffice/BureauLibreOffice.h"
+#endif
 
 namespace norvane {
-namespace {
 
-// LibreOffice's export filter for a document's extension; empty when none.
-std::string FiltreExport(const std::string& extension) {
-  if (extension == "doc") return "doc:MS Word 97";
-  if (extension == "rtf") return "rtf:Rich Text Format";
-  if (extension == "odt") return "odt:writer8";
-  if (extension == "docx") return "docx:MS Word 2007 XML";
-  if (extension == "pdf") return "pdf:writer_pdf_Export";
-  return {};
+// Two sets of drivers over two offices, each made at its first use.
+struct EditeurLigneCommande::Etat {
+  Etat(const Options& o, PortMessages& m) : options(o), messages(m), visibles(o, m) {
+    prive.pilote = [this](int code) { return code == kEditeurOpenOffice ? PiloteCache() : nullptr; };
+    visibles.Brancher(kEditeurOpenOffice, PiloteVisible());
+  }
+
+  const Options& options;
+  PortMessages& messages;
+  ContexteSauvegarde prive{messages, options, "", nullptr, nullptr};
+  ContexteSauvegarde utilisateur{messages, options, "", nullptr, nullptr};
+  Pilotes visibles;
+  EditeurGenerateur generateur{messages, visibles, prive};
+#ifdef NORVANE_AVEC_LIBREOFFICE
+  std::unique_ptr<BureauLibreOffice> bureauPrive, bureauUtilisateur;
+  std::unique_ptr<PiloteOpenOffice> piloteCache, piloteVisible;
+
+  Pilote* PiloteCache() {
+    if (!piloteCache) {
+      const std::string programme = ProgrammeLibreOffice(options.CheminEditeur);
+      if (programme.empty()) return nullptr;
+      bureauPrive = std::make_unique<BureauLibreOffice>(SorteBureau::Prive, programme);
+      piloteCache = std::make_unique<PiloteOpenOffice>(*bureauPrive, prive);
+    }
+    return piloteCache.get();
+  }
+  // The user's office is only reached when a document is shown; the driver
+  // exists from the start so that the dispatch finds it.
+  Pilote* PiloteVisible() {
+    if (!piloteVisible) {
+      bureauUtilisateur =
+          std::make_unique<BureauLibreOffice>(SorteBureau::Utilisateur, ProgrammeLibreOffice(options.CheminEditeur));
+      piloteVisible = std::make_unique<PiloteOpenOffice>(*bureauUtilisateur, utilisateur);
+    }
+    return piloteVisible.get();
+  }
+#else
+  Pilote* PiloteCache() { return nullptr; }
+  Pilote* PiloteVisible() { return nullptr; }
+#endif
+};
+
+EditeurLigneCommande::EditeurLigneCommande(const Options& options, PortMessages& messages)
+    : etat_(std::make_unique<Etat>(options, messages)) {}
+
+EditeurLigneCommande::~EditeurLigneCommande() = default;
+
+void EditeurLigneCommande::OuvrirDocument(int editeur, const std::string& chemin) {
+  etat_->generateur.OuvrirDocument(editeur, chemin);
 }
 
-}  // namespace
-
-int ExecuterProgramme(const std::vector<std::string>& arguments, bool attendre) {
-  std::vector<char*> argv;
-  for (const std::string& a : arguments) argv.push_back(const_cast<char*>(a.c_str()));
-  argv.push_back(nullptr);
-  pid_t pid = 0;
-  posix_spawn_file_actions_t actions;
-  posix_spawn_file_actions_init(&actions);
-  posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-  posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-  const int erreur = posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), environ);
-  posix_spawn_file_actions_destroy(&actions);
-  if (erreur != 0) return -1;
-  if (!attendre) return 0;
-  int statut = 0;
-  if (waitpid(pid, &statut, 0) < 0) return -1;
-  return WIFEXITED(statut) ? WEXITSTATUS(statut) : -1;
+bool EditeurLigneCommande::SauvegarderSous(bool fermer, int editeur, const std::string& source,
+                                           const std::string& chemin) {
+  return etat_->generateur.SauvegarderSous(fermer, editeur, source, chemin);
 }
 
-std::string EditeurLigneCommande::Programme() const {
-  std::string chemin = Trim(options_.CheminEditeur);
-  while (!chemin.empty() && (chemin.back() == '/' || chemin.back() == '\\')) chemin.pop_back();
-  return chemin.empty() ? std::string("soffice") : chemin;
+bool EditeurLigneCommande::Convertir(const std::string& source, const std::string& cible) {
+  if (etat_->PiloteCache() == nullptr) {
+    SignalerAucunEditeur(etat_->messages, kConseilCreerDoc);
+    return false;
+  }
+  return norvane::Convertir(etat_->prive, kEditeurOpenOffice, source, cible);
 }
 
-void EditeurLigneCommande::OuvrirDocument(int, const std::string& chemin) {
-  if (ExecuterProgramme({Programme(), CheminReel(chemin)}, false) != 0) {
-    messages_.AfficherMessage("Pilote", "Problème de liaison entre Norvane et le traitement de texte",
-                              "Impossible de lancer \"" + Programme() + "\" pour ouvrir le document.", "", "");
+bool EditeurLigneCommande::Ouvrir(const std::string& chemin) {
+  Pilote* pilote = etat_->visibles.Servir(Demande::OuvertureListe);
+  return pilote != nullptr && OuvrirPourUtilisateur(etat_->messages, *pilote, chemin);
+}
+
+bool LierEditeurSiAucun(Application& application) {
+  Options& options = application.session.options;
+  if (!EstBlanc(options.CheminEditeur)) return true;
+  const std::string trouve = ChercherEditeur(std::vector<std::string>{"soffice", "libreoffice"}, application.progression,
+                                             application.messages, DossiersDepartRecherche());
+  application.progression.Terminer();
+  if (trouve.empty()) return false;
+  ValiderEditeur(application.session, Utf8VersCp1252(trouve), application.messages);
+  return !EstBlanc(options.CheminEditeur);
+}
+
+void LierEditeurPour(Application& application, const std::string& resultat, bool ouvrir) {
+  if (!FinitPar(resultat, ".rtf", true) || ouvrir || application.session.options.OptimisationOOo == 1) {
+    LierEditeurSiAucun(application);
   }
 }
 
-void EditeurLigneCommande::SauvegarderSous(bool, int, const std::string& chemin) {
-  namespace fs = std::filesystem;
-  const std::string extension = Minuscules(fs::path(chemin).extension().string().substr(1 < chemin.size() ? 1 : 0));
-  // An RTF document is already in its format: a round trip through the word
-  // processor would only risk the hidden update marks.
-  if (extension == "rtf") return;
-  const std::string filtre = FiltreExport(extension);
+bool GarderRtfSousSonNom(const std::string& resultat) {
+  if (FinitPar(resultat, ".rtf", true) || !ContientRtf(resultat)) return true;
+  const std::string jumeau = std::filesystem::path(resultat).replace_extension(".rtf").string();
   std::error_code ec;
-  const fs::path travail = fs::temp_directory_path(ec) / ("norvane-conversion-" + std::to_string(getpid()));
-  fs::create_directories(travail / "profil", ec);
-  // The document in hand is the file itself when it holds RTF under another
-  // name, else the RTF result of the same name that it converts.
-  const fs::path source = travail / "document.rtf";
-  std::string origine = CheminReel(chemin);
-  if (!ResoudreChemin(origine)) origine = fs::path(origine).replace_extension(".rtf").string();
-  fs::copy_file(CheminReel(origine), source, fs::copy_options::overwrite_existing, ec);
-  int statut = -1;
-  if (!filtre.empty() && !ec) {
-    statut = ExecuterProgramme({Programme(), "-env:UserInstallation=file://" + (travail / "profil").string(),
-                                "--headless", "--convert-to", filtre, "--outdir", travail.string(), source.string()},
-                               true);
-  }
-  const fs::path converti = travail / ("document." + extension);
-  if (statut == 0 && fs::exists(converti, ec)) fs::rename(converti, chemin, ec);
-  if (statut != 0 || ec) {
-    messages_.AfficherMessage("Pilote", "Erreur : sauvegarde impossible.",
-                              "Le document \"" + chemin + "\" n'a pas pu être converti par le traitement de texte.",
-                              "Vérifiez que LibreOffice est installé et lié à Norvane.", "");
-  }
-  fs::remove_all(travail, ec);
+  std::filesystem::rename(resultat, jumeau, ec);
+  std::cerr << "Norvane : le document n'a pas pu être converti ; le résultat RTF est gardé sous « "
+            << (ec ? resultat : jumeau) << " ».\n";
+  return false;
 }
 
 }  // namespace norvane

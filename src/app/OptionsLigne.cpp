@@ -29,6 +29,15 @@ bool Lire(OptionsLigne& o, const std::string& a) {
     o.comparer.push_back(*v);
     return !v->empty();
   }
+  if (auto v = Valeur(a, "format")) {
+    o.format = Minuscules(*v);
+    return o.format == "doc" || o.format == "odt" || o.format == "pdf" || o.format == "rtf" ||
+           o.format == "json";
+  }
+  if (auto v = Valeur(a, "dossier-sortie")) {
+    o.dossierSortie = *v;
+    return !v->empty();
+  }
   if (auto v = Valeur(a, "annees")) {
     o.annees = EntierDe(*v);
     return o.annees > 0 && o.annees <= 13;

@@ -6,6 +6,10 @@
 #include <string>
 
 #include "app/Application.h"
+#include "graphs/GraphiquesGeneration.h"
+#include "tables/MultiDossier.h"
+#include "cerfa/ProducteursCerfa.h"
+#include "tables/TableauxDocument.h"
 #include "template/Generation.h"
 
 namespace norvane {
@@ -14,7 +18,8 @@ namespace norvane {
 void PlacerDossier(Session& session, int slot, const std::string& argument);
 
 // Places the dossier argument (if any) in slot 0 and the --comparer dossiers
-// in slots 1 to 9. Returns false, with a message, when more than nine are given.
+// in slots 1 to 9. Returns false, with a message, when more than nine are
+// given or when one of them is missing, a file, or cannot be read.
 bool PlacerDossiers(Application& application, const std::string& dossier);
 
 // A generation on the application's session and ports, with the bound word
@@ -30,6 +35,15 @@ class Travail {
   EntitesCourantes aucuneEntite_;
   std::unique_ptr<PortEditeur> editeur_;
   Generation generation_;
+  // Tables compare the dossiers of slots 1 to 9 (--comparer, or the settings).
+  ChoixDossiersParSlots choixDossiers_;
+  // Crop, activity, asset and loan tables, and those of the Cerfa report.
+  ProducteursCerfa producteurs_;
+  TableauxDocument tableaux_;
+  // The chart drawer (Qt), and the picture port that embeds logos.
+  std::unique_ptr<PortDessinGraphique> dessin_;
+  GraphiquesGeneration graphiques_;
+  std::unique_ptr<PortImages> images_;
 };
 
 }  // namespace norvane

@@ -15,7 +15,7 @@ int VerbeDossier(Application& application) {
     return 2;
   }
   const Session& session = application.session;
-  return DecrireDossier(chemin, session.Organisations, session.ParamFinal, std::cout) ? 0 : 1;
+  return DecrireDossier(chemin, session, std::cout) ? 0 : 1;
 }
 
 }  // namespace norvane

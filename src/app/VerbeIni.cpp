@@ -1,5 +1,6 @@
 // INI <template> <result> [ouvrir] [remplacer]: a document made without a
 // dossier, so that only INI: codes and the like yield values.
+#include "app/EditeurLigneCommande.h"
 #include "app/Travail.h"
 #include "app/Verbes.h"
 #include "frame/LigneCommande.h"
@@ -18,8 +19,12 @@ int VerbeIni(Application& application) {
   application.session.NomDossier[0].clear();
   // A template that is not there ends the job quietly, as the parent product expects.
   if (Trim(modele).empty() || !ResoudreChemin(modele)) return 0;
+  LierEditeurPour(application, resultat, ouvrir);
   Travail travail(application);
-  const ResultatDocument r = CreerDocument(travail.generation(), modele, resultat, false, !ouvrir, !remplacer);
+  const ResultatDocument r =
+      CreerDocument(travail.generation(), modele, resultat,
+                    {.miseAJour = false, .sansOuvrir = !ouvrir, .demanderRemplacement = !remplacer});
+  if (r.ecrit && !GarderRtfSousSonNom(resultat)) return 1;
   return r.ecrit || r.abandonne ? 0 : 1;
 }
 

@@ -9,7 +9,8 @@ const std::vector<Verbe>& TableVerbes() {
   static const std::vector<Verbe> table = {
       {"INI", "INI <modèle> <résultat> [ouvrir] [remplacer]",
        "crée un document sans dossier (#esp# tient lieu d'espace dans les chemins)", VerbeIni},
-      {"OUVRIR", "OUVRIR <dossier .TVL> <document>", "ouvre un document d'un dossier (#tvl# pour un espace)",
+      {"OUVRIR", "OUVRIR <dossier .TVL> <document>",
+       "ouvre un document du dossier dans LibreOffice (#tvl# pour un espace)",
        VerbeOuvrir},
       {"CREER", "CREER <dossier .TVL>", "fenêtre de création de documents sur ce dossier", VerbeCreer},
       {"CERFA", "CERFA <dossier .TVL>", "fenêtre de création du rapport PDE Cerfa sur ce dossier", VerbeCerfa},
@@ -22,6 +23,15 @@ const std::vector<Verbe>& TableVerbes() {
        "met à jour les champs d'un document résultat", VerbeMettreAJour},
       {"EXPLIQUER", "EXPLIQUER <texte> [<dossier .TVL>]", "explique chaque code du texte et sa valeur",
        VerbeExpliquer},
+      {"MODELES", "MODELES [TABLEAUX \"<nom>\"]",
+       "affiche l'arbre des modèles enregistrés, ou le code #tvl(...)# d'un modèle", VerbeModeles},
+      {"GRAPHIQUE", "GRAPHIQUE <code gph(...) ou titre d'un modèle> <fichier.png> [<dossier .TVL>]",
+       "dessine un graphique dans un fichier PNG, avec les valeurs du dossier ou des valeurs d'exemple",
+       VerbeGraphique},
+      {"CONVERTIR", "CONVERTIR <document>... --format=doc|odt|pdf|rtf [--dossier-sortie=<dossier>]",
+       "convertit des documents par LibreOffice, lancé une seule fois", VerbeConvertir},
+      {"VERIFIER", "VERIFIER <modèle.tvm> [<dossier .TVL>] [--format=json]",
+       "vérifie chaque code d'un modèle (place, sens, erreurs) sans rien générer", VerbeVerifier},
   };
   return table;
 }
@@ -49,6 +59,8 @@ std::string TexteAide() {
       "  --reponse=oui|non    réponse donnée à toute question\n"
       "  --comparer=<dossier> dossier à comparer (répétable, emplacements 1 à 9)\n"
       "  --annees=N           nombre d'années d'étude du cadre Cerfa\n"
+      "  --format=F           format produit par CONVERTIR : doc, odt, pdf ou rtf\n"
+      "  --dossier-sortie=D   dossier où CONVERTIR écrit (par défaut, celui de chaque document)\n"
       "  --help               affiche cette aide\n"
       "  --version            affiche la version\n";
   return texte;

@@ -30,5 +30,9 @@ int VerbeDossier(Application& application);
 int VerbeGenerer(Application& application);
 int VerbeMettreAJour(Application& application);
 int VerbeExpliquer(Application& application);
+int VerbeConvertir(Application& application);
+int VerbeModeles(Application& application);
+int VerbeGraphique(Application& application);
+int VerbeVerifier(Application& application);
 
 }  // namespace norvane

@@ -1,6 +1,7 @@
 // GENERER, METTREAJOUR and EXPLIQUER: the headless jobs on documents.
 #include <iostream>
 
+#include "app/EditeurLigneCommande.h"
 #include "app/Travail.h"
 #include "app/Verbes.h"
 #include "frame/Encodage.h"
@@ -41,28 +42,36 @@ int VerbeGenerer(Application& application) {
   if (application.Param(2).empty() || application.Param(3).empty()) {
     return Usage("GENERER <modèle> <résultat> [<dossier .TVL>]");
   }
-  if (!PlacerDossiers(application, application.Param(4))) return 2;
+  if (!PlacerDossiers(application, application.Param(4))) return 1;
+  const std::string& resultat = application.Param(3);
+  LierEditeurPour(application, resultat, application.options.ouvrir);
   Travail travail(application);
-  const ResultatDocument r = CreerDocument(travail.generation(), application.Param(2), application.Param(3), false,
-                                           !application.options.ouvrir, !application.options.remplacer);
-  if (r.ecrit) std::cout << "Document créé : " << application.Param(3) << " (" << r.nbCodes << " codes)\n";
-  return r.ecrit ? 0 : 1;
+  const ResultatDocument r = CreerDocument(travail.generation(), application.Param(2), resultat,
+                                           {.miseAJour = false,
+                                            .sansOuvrir = !application.options.ouvrir,
+                                            .demanderRemplacement = !application.options.remplacer});
+  if (!r.ecrit || !GarderRtfSousSonNom(resultat)) return 1;
+  std::cout << "Document créé : " << resultat << " (" << r.nbCodes << " codes)\n";
+  return 0;
 }
 
 int VerbeMettreAJour(Application& application) {
   if (application.Param(2).empty()) return Usage("METTREAJOUR <document> [<dossier .TVL>]");
-  if (!PlacerDossiers(application, application.Param(3))) return 2;
-  Travail travail(application);
+  if (!PlacerDossiers(application, application.Param(3))) return 1;
   const std::string& document = application.Param(2);
+  LierEditeurPour(application, document, application.options.ouvrir);
+  Travail travail(application);
   const ResultatDocument r =
-      CreerDocument(travail.generation(), document, document, true, !application.options.ouvrir, true);
-  if (r.ecrit) std::cout << r.nbChampsMisAJour << " champs mis à jour !\n";
-  return r.ecrit ? 0 : 1;
+      CreerDocument(travail.generation(), document, document,
+                    {.miseAJour = true, .sansOuvrir = !application.options.ouvrir, .demanderRemplacement = true});
+  if (!r.ecrit || !GarderRtfSousSonNom(document)) return 1;
+  std::cout << r.nbChampsMisAJour << " champs mis à jour !\n";
+  return 0;
 }
 
 int VerbeExpliquer(Application& application) {
   if (application.Param(2).empty()) return Usage("EXPLIQUER <texte contenant des codes> [<dossier .TVL>]");
-  if (!PlacerDossiers(application, application.Param(3))) return 2;
+  if (!PlacerDossiers(application, application.Param(3))) return 1;
   AideSurSortie aide(application.messages);
   Travail travail(application, &aide);
   Generation& g = travail.generation();

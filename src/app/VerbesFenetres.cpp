@@ -21,7 +21,6 @@ int FenetreAbsente(Application& application, const char* fenetre) {
 
 }  // namespace
 
-int VerbeOuvrir(Application& a) { return FenetreAbsente(a, "Ouverture d'un document"); }
 int VerbeCreer(Application& a) { return FenetreAbsente(a, "Création de documents"); }
 int VerbeCerfa(Application& a) { return FenetreAbsente(a, "Création du rapport PDE Cerfa"); }
 int VerbeGraph(Application& a) { return FenetreAbsente(a, "Edition des graphiques"); }

@@ -8,7 +8,7 @@
 
 namespace norvane {
 
-void InitChemins(Session& session, const std::string& dossierProgramme) {
+void InitChemins(SessionCadre& session, const std::string& dossierProgramme) {
   std::string dossier = dossierProgramme;
   std::replace(dossier.begin(), dossier.end(), '\\', '/');
   const std::size_t p = Minuscules(dossier).find("norvane");

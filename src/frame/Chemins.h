@@ -18,7 +18,7 @@ inline constexpr const char* kAdresseGuideEnLigne = "https://norvane.fr/guide/";
 // before the first "norvane" found in its lower-case form, keeping the path's
 // own case; empty when there is none, so that every folder is then relative
 // to the working directory.
-void InitChemins(Session& session, const std::string& dossierProgramme);
+void InitChemins(SessionCadre& session, const std::string& dossierProgramme);
 
 // Folder of the running executable (from /proc/self/exe), without a final "/";
 // empty when it cannot be read.

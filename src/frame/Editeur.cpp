@@ -68,7 +68,7 @@ VerificationEditeur VerifierEditeur(Options& options) {
   return {false, NomAffichageEditeur(options.CheminEditeur)};
 }
 
-std::string ValiderEditeur(Session& session, std::string_view chemin, PortMessages& messages) {
+std::string ValiderEditeur(SessionCadre& session, std::string_view chemin, PortMessages& messages) {
   if (EstBlanc(chemin)) {
     messages.PoserQuestion(kTitreChoixEditeur, "Le chemin de l'éditeur choisi est vide !", Boutons::Ok,
                            Icone::Exclamation, 0);

@@ -49,7 +49,7 @@ VerificationEditeur VerifierEditeur(Options& options);
 // path unbinds the editor; stores it trimmed and saves the settings. A path
 // the settings cannot hold is refused with a message, and the old binding
 // stays. Returns the display name of the editor bound.
-std::string ValiderEditeur(Session& session, std::string_view chemin, PortMessages& messages);
+std::string ValiderEditeur(SessionCadre& session, std::string_view chemin, PortMessages& messages);
 
 // A file chosen by hand made an ".exe": a three-letter extension is replaced,
 // any other name gets ".exe" appended; a blank name is returned unchanged.

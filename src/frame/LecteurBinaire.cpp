@@ -17,14 +17,30 @@ void EcrireBrut(std::string& sortie, T valeur) {
 
 }  // namespace
 
-bool LecteurBinaire::Prendre(void* destination, std::size_t largeur) {
-  if (!ok_ || position_ > octets_.size() || largeur > octets_.size() - position_) {
-    ok_ = false;
-    return false;
-  }
+// False once a read has failed, or when `largeur` bytes do not remain; the
+// first failure is remembered.
+bool LecteurBinaire::Disponible(std::size_t largeur, const ChampDisposition* champ, std::size_t rang) {
+  if (echec_) return false;
+  if (position_ <= octets_.size() && largeur <= octets_.size() - position_) return true;
+  echec_ = EchecLecture{base_ + position_, champ != nullptr ? NomElement(*champ, rang) : std::string()};
+  return false;
+}
+
+bool LecteurBinaire::Prendre(void* destination, std::size_t largeur, const ChampDisposition* champ,
+                             std::size_t rang) {
+  if (!Disponible(largeur, champ, rang)) return false;
   std::memcpy(destination, octets_.data() + position_, largeur);
   position_ += largeur;
   return true;
+}
+
+ErreurLecture LecteurBinaire::Erreur(std::string texte, std::string fichier, uint64_t enregistrement) const {
+  ErreurLecture erreur{std::move(texte), std::move(fichier), enregistrement, {}, base_ + position_};
+  if (echec_) {
+    erreur.champ = echec_->champ;
+    erreur.octet = echec_->octet;
+  }
+  return erreur;
 }
 
 bool LecteurBinaire::Lire(int16_t& valeur) { return Prendre(&valeur, sizeof valeur); }
@@ -32,22 +48,39 @@ bool LecteurBinaire::Lire(int32_t& valeur) { return Prendre(&valeur, sizeof vale
 bool LecteurBinaire::Lire(float& valeur) { return Prendre(&valeur, sizeof valeur); }
 bool LecteurBinaire::Lire(double& valeur) { return Prendre(&valeur, sizeof valeur); }
 
+bool LecteurBinaire::Lire(int16_t& valeur, const ChampDisposition& champ, std::size_t rang) {
+  return Prendre(&valeur, sizeof valeur, &champ, rang);
+}
+bool LecteurBinaire::Lire(int32_t& valeur, const ChampDisposition& champ, std::size_t rang) {
+  return Prendre(&valeur, sizeof valeur, &champ, rang);
+}
+bool LecteurBinaire::Lire(float& valeur, const ChampDisposition& champ, std::size_t rang) {
+  return Prendre(&valeur, sizeof valeur, &champ, rang);
+}
+
 bool LecteurBinaire::LireTexte(std::string& valeur, std::size_t largeur) {
-  if (!ok_ || position_ > octets_.size() || largeur > octets_.size() - position_) {
-    ok_ = false;
-    return false;
-  }
+  if (!Disponible(largeur, nullptr, 0)) return false;
   valeur.assign(octets_.data() + position_, largeur);
   position_ += largeur;
   return true;
 }
 
+bool LecteurBinaire::LireTexte(std::string& valeur, const ChampDisposition& champ, std::size_t rang) {
+  if (!Disponible(champ.largeur, &champ, rang)) return false;
+  valeur.assign(octets_.data() + position_, champ.largeur);
+  position_ += champ.largeur;
+  return true;
+}
+
 bool LecteurBinaire::Sauter(std::size_t largeur) {
-  if (!ok_ || position_ > octets_.size() || largeur > octets_.size() - position_) {
-    ok_ = false;
-    return false;
-  }
+  if (!Disponible(largeur, nullptr, 0)) return false;
   position_ += largeur;
+  return true;
+}
+
+bool LecteurBinaire::Sauter(const ChampDisposition& champ) {
+  if (!Disponible(champ.largeur * champ.nombre, &champ, 0)) return false;
+  position_ += champ.largeur * champ.nombre;
   return true;
 }
 

@@ -49,7 +49,7 @@ std::string RemplacerBlancs(std::string_view texte, std::string_view marqueur) {
   return RemplaceTexte(texte, marqueur, " ");
 }
 
-void DecouperArgumentDossier(std::string_view texte, Session& session) {
+void DecouperArgumentDossier(std::string_view texte, SessionCadre& session) {
   std::string chemin = RemplacerBlancs(texte, "#tvl#");
   if (!chemin.empty() && (chemin.back() == '/' || chemin.back() == '\\')) chemin.pop_back();
   const std::size_t barre = chemin.find_last_of("/\\");

@@ -34,6 +34,6 @@ std::string RemplacerBlancs(std::string_view texte, std::string_view marqueur);
 // trailing separator ("/" or "\") is dropped, the part behind the last
 // separator goes to NomDossier[0] and the part up to and including it to
 // RepDossier[0] (so that RepDossier[0] + NomDossier[0] names the folder).
-void DecouperArgumentDossier(std::string_view texte, Session& session);
+void DecouperArgumentDossier(std::string_view texte, SessionCadre& session);
 
 }  // namespace norvane

@@ -145,7 +145,8 @@ std::string CheminVersUrl(const std::string& chemin) {
   }
   static const char kHex[] = "0123456789ABCDEF";
   std::string url = "file://";
-  for (unsigned char c : absolu) {
+  for (const char octet : absolu) {
+    const auto c = static_cast<unsigned char>(octet);
     if (NonReserve(c)) {
       url += static_cast<char>(c);
     } else {
@@ -158,17 +159,7 @@ std::string CheminVersUrl(const std::string& chemin) {
 }
 
 std::string RemplaceTexte(std::string_view texte, std::string_view cherche, std::string_view remplace) {
-  if (texte.empty() || cherche.empty()) return std::string(texte);
-  std::string r;
-  r.reserve(texte.size());
-  std::size_t pos = 0;
-  for (std::size_t p; (p = ChercherSansCasse(texte, cherche, pos)) != std::string_view::npos;
-       pos = p + cherche.size()) {
-    r.append(texte.substr(pos, p - pos));
-    r.append(remplace);
-  }
-  r.append(texte.substr(pos));
-  return r;
+  return RemplacerTout(texte, cherche, remplace, true);
 }
 
 }  // namespace norvane

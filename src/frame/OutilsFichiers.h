@@ -47,6 +47,17 @@ std::string CheminReel(const std::string& chemin);
 // Whole content of a file found through ResoudreChemin; std::nullopt when it
 // cannot be read.
 std::optional<std::string> LireFichier(const std::string& chemin);
+// The first `limite` bytes at most of the same file: what a reader of fixed
+// records can use, whatever the file's size.
+std::optional<std::string> LireFichier(const std::string& chemin, std::size_t limite);
+// Size of the regular file found through ResoudreChemin; std::nullopt when
+// there is none (missing, a folder...). 64-bit: study files may claim gigabytes.
+std::optional<uint64_t> TailleFichierReguliere(const std::string& chemin);
+// Offset just past the last byte of data that the file system holds for the
+// regular file `cheminReel` of size `taille`: a file grown by a seek or made
+// sparse ends its real data well before its size. The size itself when the
+// system cannot tell; 0 when the file holds no data at all.
+uint64_t FinDonneesReelles(const std::string& cheminReel, uint64_t taille);
 // Writes a whole file through a temporary file in the same folder renamed over
 // the old one. Returns false on failure, leaving any old file intact.
 bool EcrireFichierAtomique(const std::string& chemin, std::string_view contenu);

@@ -40,7 +40,7 @@ namespace {
 
 constexpr std::size_t kTailleRecord = 128;
 constexpr std::size_t kTexteMax = kTailleRecord - 2;
-constexpr int kNbRecords = 45;
+constexpr std::size_t kNbRecords = 45;
 
 // Calls `visiter(numero, champ, libelle)` for the 45 records in file order;
 // `champ` is an int16_t or a std::string of `contenu` (const or not).
@@ -52,13 +52,15 @@ void ParcourirRecords(Contenu& contenu, Visiteur&& visiter) {
   visiter(3, o.BarreMasquable, "");
   visiter(4, o.ModeInsertion, "");
   visiter(5, o.MasquerPopup, "");
-  for (int i = 0; i < 6; ++i) {
-    visiter(6 + 2 * i, contenu.RepDossier[i], "le répertoire d'un dossier");
-    visiter(7 + 2 * i, contenu.NomDossier[i], "le nom d'un dossier");
+  for (std::size_t i = 0; i < 6; ++i) {
+    const int n = 6 + 2 * static_cast<int>(i);
+    visiter(n, contenu.RepDossier[i], "le répertoire d'un dossier");
+    visiter(n + 1, contenu.NomDossier[i], "le nom d'un dossier");
   }
-  for (int k = 0; k < 5; ++k) {
-    visiter(18 + 2 * k, o.FormatLigne[k][0], "un format de ligne");
-    visiter(19 + 2 * k, o.FormatLigne[k][1], "un format de ligne");
+  for (std::size_t k = 0; k < 5; ++k) {
+    const int n = 18 + 2 * static_cast<int>(k);
+    visiter(n, o.FormatLigne[k][0], "un format de ligne");
+    visiter(n + 1, o.FormatLigne[k][1], "un format de ligne");
   }
   visiter(28, o.SansAnnotation, "");
   visiter(29, o.CouleurMarqueur, "");
@@ -120,7 +122,7 @@ std::optional<std::string> EncoderParametres(const ContenuParametres& contenu, s
       EcrireEntier16(octets, static_cast<int16_t>(champ.size()));
       octets += champ;
     }
-    if (numero < kNbRecords) octets.resize(debut + kTailleRecord, '\0');
+    if (numero < static_cast<int>(kNbRecords)) octets.resize(debut + kTailleRecord, '\0');
   });
   if (erreur) octets.clear();
   return erreur;
@@ -133,7 +135,8 @@ ContenuParametres ChargerParametres(const std::string& repNorvane) {
     const int fd = ::open(CheminReel(chemin).c_str(), O_WRONLY | O_CREAT, 0644);
     if (fd >= 0) ::close(fd);
   }
-  return DecoderParametres(LireFichier(chemin).value_or(std::string()));
+  // Only the 45 records can hold settings: a larger file is not read further.
+  return DecoderParametres(LireFichier(chemin, kNbRecords * kTailleRecord).value_or(std::string()));
 }
 
 std::optional<std::string> EnregistrerParametres(const ContenuParametres& contenu, const std::string& repNorvane) {
@@ -147,7 +150,7 @@ std::optional<std::string> EnregistrerParametres(const ContenuParametres& conten
   return std::nullopt;
 }
 
-void ChargerOptions(Session& session) {
+void ChargerOptions(SessionCadre& session) {
   ContenuParametres contenu = ChargerParametres(session.RepNorvane);
   session.options = std::move(contenu.options);
   for (std::size_t i = 0; i < contenu.RepDossier.size(); ++i) {
@@ -156,7 +159,7 @@ void ChargerOptions(Session& session) {
   }
 }
 
-std::optional<std::string> EnregistrerOptions(const Session& session) {
+std::optional<std::string> EnregistrerOptions(const SessionCadre& session) {
   ContenuParametres contenu;
   contenu.options = session.options;
   for (std::size_t i = 0; i < contenu.RepDossier.size(); ++i) {
@@ -170,7 +173,7 @@ std::string FormatLigneEffectif(const Options& options, int typeLigne, int membr
   if (typeLigne < 0 || typeLigne >= static_cast<int>(options.FormatLigne.size()) || membre < 0 || membre > 1) {
     return kFormatLigneParDefaut;
   }
-  const std::string& format = options.FormatLigne[typeLigne][membre];
+  const std::string& format = options.FormatLigne[static_cast<std::size_t>(typeLigne)][static_cast<std::size_t>(membre)];
   return EstBlanc(format) ? std::string(kFormatLigneParDefaut) : format;
 }
 

@@ -43,8 +43,8 @@ ContenuParametres ChargerParametres(const std::string& repNorvane);
 std::optional<std::string> EnregistrerParametres(const ContenuParametres& contenu, const std::string& repNorvane);
 
 // The same for the session: options and dossier slots 0 to 5, in RepNorvane.
-void ChargerOptions(Session& session);
-std::optional<std::string> EnregistrerOptions(const Session& session);
+void ChargerOptions(SessionCadre& session);
+std::optional<std::string> EnregistrerOptions(const SessionCadre& session);
 
 // Cell format of a line kind (0 to 5) for the first cell (membre 0) or the
 // others (membre 1); a blank member, or one out of range, reads "1;1;1;1;8".

@@ -135,8 +135,9 @@ EtatChoixEditeur EtatFenetreChoix(const EditeursTrouves& trouves, const Options&
   EtatChoixEditeur etat;
   etat.cheminAffiche = Trim(options.CheminEditeur);
   for (int i = 0; i < 3; ++i) {
-    etat.actif[i] = !trouves.Chemin(i).empty();
-    etat.coche[i] = etat.actif[i] && trouves.Chemin(i) == etat.cheminAffiche;
+    const auto k = static_cast<std::size_t>(i);
+    etat.actif[k] = !trouves.Chemin(i).empty();
+    etat.coche[k] = etat.actif[k] && trouves.Chemin(i) == etat.cheminAffiche;
   }
   etat.optimisationActive = etat.actif[2];
   etat.optimisationCochee = etat.optimisationActive && options.OptimisationOOo == 1;
@@ -146,7 +147,7 @@ EtatChoixEditeur EtatFenetreChoix(const EditeursTrouves& trouves, const Options&
 std::array<bool, 3> OptionsPourChemin(const EditeursTrouves& trouves, const std::string& chemin) {
   std::array<bool, 3> coche{};
   for (int i = 0; i < 3; ++i) {
-    coche[i] = !trouves.Chemin(i).empty() && AjouterAntislash(trouves.Chemin(i)) == AjouterAntislash(chemin);
+    coche[static_cast<std::size_t>(i)] = !trouves.Chemin(i).empty() && AjouterAntislash(trouves.Chemin(i)) == AjouterAntislash(chemin);
   }
   return coche;
 }

@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <fstream>
 #include <sstream>
 #include <vector>
@@ -85,21 +86,6 @@ Resolution Resoudre(const std::string& brut) {
   return r;
 }
 
-std::string DossierParent(const std::string& chemin) {
-  const std::size_t barre = chemin.find_last_of('/');
-  if (barre == std::string::npos) return ".";
-  return barre == 0 ? "/" : chemin.substr(0, barre);
-}
-
-bool EcrireTout(int fd, std::string_view contenu) {
-  while (!contenu.empty()) {
-    const ssize_t n = ::write(fd, contenu.data(), contenu.size());
-    if (n <= 0) return false;
-    contenu.remove_prefix(static_cast<std::size_t>(n));
-  }
-  return true;
-}
-
 }  // namespace
 
 std::string JoindreChemin(std::string_view dossier, std::string_view nom) {
@@ -128,20 +114,47 @@ std::optional<std::string> LireFichier(const std::string& chemin) {
   return contenu.str();
 }
 
-bool EcrireFichierAtomique(const std::string& chemin, std::string_view contenu) {
-  const std::string cible = CheminReel(chemin);
-  if (cible.empty() || cible.back() == '/') return false;
-  const std::string dossier = DossierParent(cible);
-  std::string modele = JoindreChemin(dossier, "." + cible.substr(cible.find_last_of('/') + 1) + ".XXXXXX");
-  const int fd = ::mkstemp(modele.data());
-  if (fd < 0) return false;
-  struct stat ancien {};
-  const mode_t mode = ::stat(cible.c_str(), &ancien) == 0 ? (ancien.st_mode & 07777) : 0644;
-  bool ok = EcrireTout(fd, contenu) && ::fchmod(fd, mode) == 0 && ::fsync(fd) == 0;
-  ok = ::close(fd) == 0 && ok;
-  ok = ok && ::rename(modele.c_str(), cible.c_str()) == 0;
-  if (!ok) ::unlink(modele.c_str());
-  return ok;
+std::optional<std::string> LireFichier(const std::string& chemin, std::size_t limite) {
+  auto reel = ResoudreChemin(chemin);
+  struct stat st {};
+  if (!reel || ::stat(reel->c_str(), &st) != 0 || !S_ISREG(st.st_mode)) return std::nullopt;
+  std::ifstream flux(*reel, std::ios::binary);
+  if (!flux) return std::nullopt;
+  std::string contenu(std::min<std::size_t>(limite, static_cast<std::size_t>(st.st_size)), '\0');
+  flux.read(contenu.data(), static_cast<std::streamsize>(contenu.size()));
+  if (flux.bad()) return std::nullopt;
+  contenu.resize(static_cast<std::size_t>(flux.gcount()));
+  return contenu;
+}
+
+std::optional<uint64_t> TailleFichierReguliere(const std::string& chemin) {
+  auto reel = ResoudreChemin(chemin);
+  struct stat st {};
+  if (!reel || ::stat(reel->c_str(), &st) != 0 || !S_ISREG(st.st_mode)) return std::nullopt;
+  return static_cast<uint64_t>(st.st_size);
+}
+
+uint64_t FinDonneesReelles(const std::string& cheminReel, uint64_t taille) {
+  const int fd = ::open(cheminReel.c_str(), O_RDONLY);
+  if (fd < 0) return taille;
+  uint64_t fin = 0;
+  off_t position = 0;
+  while (static_cast<uint64_t>(position) < taille) {
+    const off_t donnees = ::lseek(fd, position, SEEK_DATA);
+    if (donnees < 0) {
+      if (errno != ENXIO) fin = taille;  // no hole support: all of it is data
+      break;
+    }
+    const off_t trou = ::lseek(fd, donnees, SEEK_HOLE);
+    if (trou < 0) {
+      fin = taille;
+      break;
+    }
+    fin = static_cast<uint64_t>(trou);
+    position = trou;
+  }
+  ::close(fd);
+  return std::min(fin, taille);
 }
 
 }  // namespace norvane

@@ -1,18 +1,17 @@
-// State that lives as long as the process: the program's folders, the dossier
-// slots, the current dossier's records and the settings. What belongs to one
-// generation only (page counter, colour count...) lives in the template engine.
+// State of the frame that lives as long as the process: the program's
+// folders, the dossier slots and the settings. The study subsystem extends it
+// with the current dossier's records (study/Session.h); what belongs to one
+// generation only lives in the template engine.
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <string>
 
 #include "frame/Options.h"
-#include "study/Enregistrements.h"
 
 namespace norvane {
 
-struct Session {
+struct SessionCadre {
   // Folders of the installation, each ending with "/" once derived (InitChemins).
   std::string RepWinTervol;
   std::string RepDatacfg;
@@ -27,11 +26,6 @@ struct Session {
   // compares dossiers. The folder of slot n is RepDossier[n] + NomDossier[n].
   std::array<std::string, 10> RepDossier;
   std::array<std::string, 10> NomDossier;
-
-  DossierGeneral InfoDossier;
-  std::array<Organisation, 20> Organisations;
-  int16_t ParamFinal = 0;
-  SerieDonnees SerieCourante;
 
   Options options;
 };

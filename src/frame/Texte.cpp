@@ -150,12 +150,14 @@ double NombreDe(std::string_view texte) {
   return res.ec == std::errc() ? valeur : 0.0;
 }
 
-std::string RemplacerTout(std::string_view texte, std::string_view cherche, std::string_view remplace) {
+std::string RemplacerTout(std::string_view texte, std::string_view cherche, std::string_view remplace,
+                          bool sansCasse) {
   if (cherche.empty()) return std::string(texte);
   std::string r;
   r.reserve(texte.size());
   std::size_t pos = 0;
-  for (std::size_t p; (p = texte.find(cherche, pos)) != std::string_view::npos; pos = p + cherche.size()) {
+  for (std::size_t p; (p = Chercher(texte, cherche, pos, sansCasse)) != std::string_view::npos;
+       pos = p + cherche.size()) {
     r.append(texte.substr(pos, p - pos));
     r.append(remplace);
   }

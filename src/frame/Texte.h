@@ -39,7 +39,10 @@ int16_t Entier16De(std::string_view texte);
 // Leading decimal number of a text ("12,5" and "12.5" both read 12.5); 0 when none.
 double NombreDe(std::string_view texte);
 
-// Every occurrence of `cherche` replaced by `remplace`, case-sensitive.
-std::string RemplacerTout(std::string_view texte, std::string_view cherche, std::string_view remplace);
+// Every occurrence of `cherche` replaced by `remplace`, from left to right,
+// never looking again into what was put in; `sansCasse` finds `cherche`
+// without regard to case. The one replacement routine of the program.
+std::string RemplacerTout(std::string_view texte, std::string_view cherche, std::string_view remplace,
+                          bool sansCasse = false);
 
 }  // namespace norvane

@@ -76,11 +76,15 @@ std::optional<std::vector<std::string>> clsINI::GetAllSectionsFromInifile(const 
 }
 
 bool clsINI::CheckSection(const std::string& section, const std::string& filename) const {
-  const std::string s = Ou(section, Section);
-  auto sections = GetAllSectionsFromInifile(filename);
-  if (!sections || s.empty()) return false;
-  for (const std::string& nom : *sections) {
-    if (Majuscules(nom) == Majuscules(s)) return true;
+  const std::string f = Ou(filename, filename_);
+  return CheckIniFile(f) && SectionPresente(ProfilIni::Lire(f), Ou(section, Section));
+}
+
+// The section is among the names the profile functions would list.
+bool clsINI::SectionPresente(const ProfilIni& profil, const std::string& section) {
+  if (section.empty()) return false;
+  for (const std::string& nom : DansTampon(profil.NomsSections())) {
+    if (!EstBlanc(nom) && Majuscules(nom) == Majuscules(section)) return true;
   }
   return false;
 }
@@ -88,10 +92,16 @@ bool clsINI::CheckSection(const std::string& section, const std::string& filenam
 std::optional<std::vector<clsINI::Paire>> clsINI::GetAllKeysFromSection(const std::string& section,
                                                                         const std::string& filename,
                                                                         bool withComments, bool sort) const {
-  if (!CheckSection(section, filename)) return std::nullopt;
   const std::string f = Ou(filename, filename_);
-  auto entrees = ProfilIni::Lire(f).EntreesSection(Ou(section, Section));
-  std::vector<std::string> lignes = DansTampon(entrees.value_or(std::vector<std::string>()));
+  if (!CheckIniFile(f)) return std::nullopt;
+  return PairesDuProfil(ProfilIni::Lire(f), section, withComments, sort);
+}
+
+std::optional<std::vector<clsINI::Paire>> clsINI::PairesDuProfil(const ProfilIni& profil, const std::string& section,
+                                                                 bool withComments, bool sort) const {
+  const std::string s = Ou(section, Section);
+  if (!SectionPresente(profil, s)) return std::nullopt;
+  std::vector<std::string> lignes = DansTampon(profil.EntreesSection(s).value_or(std::vector<std::string>()));
   if (sort) TriEchange(lignes);
   std::vector<Paire> paires;
   for (const std::string& ligne : lignes) {
@@ -113,8 +123,15 @@ bool clsINI::CheckKey(const std::string& key, const std::string& section, const 
 
 std::string clsINI::GetKeyFromSection(const std::string& key, const std::string& section,
                                       const std::string& filename) const {
+  const std::string f = Ou(filename, filename_);
+  if (!CheckIniFile(f)) return {};
+  return GetKeyFromSection(ProfilIni::Lire(f), key, section);
+}
+
+std::string clsINI::GetKeyFromSection(const ProfilIni& profil, const std::string& key,
+                                      const std::string& section) const {
   const std::string k = Majuscules(Ou(key, Key));
-  auto paires = GetAllKeysFromSection(section, filename);
+  auto paires = PairesDuProfil(profil, section, false, false);
   if (!paires) return {};
   for (const Paire& paire : *paires) {
     if (Majuscules(paire.first) == k) return paire.second;

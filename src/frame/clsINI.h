@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "frame/ProfilIni.h"
+
 namespace norvane {
 
 class clsINI {
@@ -32,6 +34,10 @@ class clsINI {
   bool CheckKey(const std::string& key = {}, const std::string& section = {}, const std::string& filename = {}) const;
   std::string GetKeyFromSection(const std::string& key = {}, const std::string& section = {},
                                 const std::string& filename = {}) const;
+  // The same on a profile already read, so that a caller can read a file
+  // once for many keys.
+  std::string GetKeyFromSection(const ProfilIni& profil, const std::string& key = {},
+                                const std::string& section = {}) const;
   void DeleteIniFile(const std::string& filename = {}) const;
   void CreateIniFile(const std::string& filename = {}) const;
   void CreateSection(const std::string& section = {}, const std::string& filename = {}) const;
@@ -45,6 +51,10 @@ class clsINI {
   void FlushInifile(const std::string& filename = {}) const;
 
  private:
+  static bool SectionPresente(const ProfilIni& profil, const std::string& section);
+  std::optional<std::vector<Paire>> PairesDuProfil(const ProfilIni& profil, const std::string& section,
+                                                   bool withComments, bool sort) const;
+
   std::string filename_;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+#include <fstream>
 #include <vector>
 
 #include "frame/Encodage.h"
@@ -10,6 +11,8 @@
 #include "frame/OutilsFichiers.h"
 #include "frame/Texte.h"
 #include "study/DossierGeneral.h"
+#include "study/FichierSeries.h"
+#include "study/ParamLog.h"
 #include "study/Series.h"
 
 namespace norvane {
@@ -54,6 +57,7 @@ void Description(std::ostream& sortie, const std::string& description) {
   sortie << "  Description du projet :\n";
   std::size_t debut = 0;
   while (debut <= description.size()) {
+    if (debut > 0 && debut < description.size() && description[debut] == '\n') ++debut;  // the LF of CR LF
     const std::size_t fin = std::min(description.find('\r', debut), description.size());
     const std::string ligne = Montrer(std::string_view(description).substr(debut, fin - debut));
     if (!ligne.empty()) sortie << "      " << ligne << "\n";
@@ -95,30 +99,44 @@ void ChampsGeneraux(std::ostream& sortie, const DossierGeneral& d) {
   Ligne(sortie, "Fax", Montrer(d.Fax));
 }
 
-// The general record file; false when there is none to read.
+// "  ! lecture interrompue : fichier X, enregistrement n, champ C, octet o".
+void Interruption(std::ostream& sortie, const ErreurLecture& erreur) {
+  sortie << "  ! lecture interrompue : " << erreur.Position() << "\n";
+}
+
+// The general record file; false when there is none to read. Only its 2110
+// bytes are read, whatever its size.
 bool EnregistrementGeneral(std::ostream& sortie, const std::string& dossier, const std::string& nom,
                            DossierGeneral& d) {
   sortie << "== Enregistrement général : " << nom << " ==\n";
-  const auto octets = LireFichier(dossier + "/" + nom);
-  if (!octets) {
+  const std::string chemin = dossier + "/" + nom;
+  const auto taille = TailleFichierReguliere(chemin);
+  const auto octets = LireFichier(chemin, kLongueurDossierGeneral);
+  if (!octets || !taille) {
     sortie << "  ! fichier " << nom << " introuvable ou illisible dans le dossier\n";
     return false;
   }
-  if (octets->size() < kLongueurDossierGeneral) {
-    sortie << "  ! fichier " << nom << " incomplet : " << octets->size() << " octets au lieu de "
+  if (*taille < kLongueurDossierGeneral) {
+    sortie << "  ! fichier " << nom << " incomplet : " << *taille << " octets au lieu de "
            << kLongueurDossierGeneral << " ; les champs à partir de " << ChampDossierGeneral(octets->size())
-           << " (octet " << octets->size() << ") manquent\n";
-  } else if (octets->size() > kLongueurDossierGeneral) {
-    sortie << "  ! fichier " << nom << " : " << octets->size() << " octets au lieu de " << kLongueurDossierGeneral
+           << " (octet " << *taille << ") manquent\n";
+  } else if (*taille > kLongueurDossierGeneral) {
+    sortie << "  ! fichier " << nom << " : " << *taille << " octets au lieu de " << kLongueurDossierGeneral
            << " ; la suite est ignorée\n";
   }
-  LireDossierGeneral(*octets, d);
+  const Resultat<void> lu = LireDossierGeneral(*octets, d, nom);
+  if (!lu) Interruption(sortie, lu.Erreur());
   ChampsGeneraux(sortie, d);
   return true;
 }
 
-void Organisations(std::ostream& sortie, const std::array<Organisation, 20>& organisations, int16_t paramFinal) {
+void Organisations(std::ostream& sortie, const std::array<Organisation, 20>& organisations, int16_t paramFinal,
+                   const Resultat<void>& lecture) {
   sortie << "\n== Organisations (ParamLog/Tervol.par) ==\n";
+  if (!lecture) {
+    sortie << "  ! " << lecture.Erreur().texte << "\n";
+    Interruption(sortie, lecture.Erreur());
+  }
   bool aucune = true;
   for (std::size_t i = 0; i < organisations.size(); ++i) {
     const Organisation& o = organisations[i];
@@ -138,11 +156,6 @@ int DerniereColonne(const DossierGeneral& d) { return d.NbAnEtude >= 1 && d.NbAn
 
 std::string Entete(const DossierGeneral& d, int colonne) {
   return d.AnneeDebut > 0 ? std::to_string(d.AnneeDebut - 1 + colonne) : "col. " + std::to_string(colonne);
-}
-
-bool EstVide(const SerieDonnees& s) {
-  return EstBlanc(s.CodeSerie) && EstBlanc(s.Intitule) &&
-         std::all_of(s.Valeur.begin(), s.Valeur.end(), [](float v) { return v == 0.0f; });
 }
 
 void Enregistrement(std::ostream& sortie, const SerieDonnees& s, std::size_t numero, const DossierGeneral& dossier) {
@@ -169,36 +182,88 @@ void Enregistrement(std::ostream& sortie, const SerieDonnees& s, std::size_t num
   }
 }
 
-void FichierSeries(std::ostream& sortie, const std::filesystem::path& fichier, const DossierGeneral& d) {
-  const std::string nom = fichier.filename().string();
-  sortie << "\n-- " << nom << " --\n";
-  const auto octets = LireFichier(fichier.string());
-  if (!octets) {
-    sortie << "  ! fichier " << nom << " illisible\n";
-    return;
-  }
-  const std::size_t complets = octets->size() / kLongueurSerie;
-  if (octets->size() % kLongueurSerie != 0) {
-    sortie << "  ! fichier " << nom << " : " << octets->size() << " octets, pas un multiple de " << kLongueurSerie
-           << " : l'enregistrement " << complets + 1 << " est incomplet (" << octets->size() % kLongueurSerie
+// What a series file holds: its size, its whole records, and how many of
+// them can hold data (the rest lie past the end of its real data).
+struct EtendueSeries {
+  uint64_t taille;
+  uint64_t complets;
+  uint64_t lus;
+};
+
+EtendueSeries Etendue(const std::string& cheminReel, uint64_t taille) {
+  const uint64_t complets = taille / kLongueurSerie;
+  const uint64_t fin = FinDonneesReelles(cheminReel, taille);
+  return {taille, complets, std::min(complets, (fin + kLongueurSerie - 1) / kLongueurSerie)};
+}
+
+void EnteteSeries(std::ostream& sortie, const EtendueSeries& e, const std::string& nom, const DossierGeneral& d) {
+  if (e.taille % kLongueurSerie != 0) {
+    sortie << "  ! fichier " << nom << " : " << e.taille << " octets, pas un multiple de " << kLongueurSerie
+           << " : l'enregistrement " << e.complets + 1 << " est incomplet (" << e.taille % kLongueurSerie
            << " octets) et n'est pas affiché\n";
+  }
+  if (e.lus < e.complets) {
+    sortie << "  ! fichier " << nom << " : " << e.taille << " octets dont seuls les " << e.lus * kLongueurSerie
+           << " premiers portent des données : les enregistrements " << e.lus + 1 << " à " << e.complets
+           << " ne sont que des zéros et ne sont pas lus\n";
   }
   sortie << Cadrer("N°", 5, true) << "  " << Cadrer("Code", 12, false) << " " << Cadrer("Intitulé", 22, false) << " "
          << Cadrer("Unité", 10, false);
   for (int c = 0; c <= DerniereColonne(d); ++c) sortie << Cadrer(Entete(d, c), 13, true);
   sortie << "\n";
-  LecteurBinaire lecteur(*octets);
-  std::size_t vides = 0;
-  for (std::size_t numero = 1; numero <= complets; ++numero) {
-    SerieDonnees serie = SerieVide();
-    LireSerieDonnees(lecteur, serie);
-    if (EstVide(serie)) {
-      ++vides;
-      continue;
+}
+
+// Reads the records 1 to e.lus a block at a time; returns how many were empty.
+uint64_t ListerSeries(std::ostream& sortie, std::istream& flux, const EtendueSeries& e, const DossierGeneral& d) {
+  constexpr uint64_t kParBloc = 1024;
+  std::string bloc;
+  uint64_t vides = 0;
+  for (uint64_t premier = 0; premier < e.lus; premier += kParBloc) {
+    const uint64_t nombre = std::min(kParBloc, e.lus - premier);
+    bloc.resize(static_cast<std::size_t>(nombre * kLongueurSerie));
+    flux.read(bloc.data(), static_cast<std::streamsize>(bloc.size()));
+    LecteurBinaire lecteur(std::string_view(bloc).substr(0, static_cast<std::size_t>(flux.gcount())),
+                           premier * kLongueurSerie);
+    for (uint64_t i = 0; i < nombre; ++i) {
+      SerieDonnees serie = SerieVide();
+      if (!LireSerieDonnees(lecteur, serie)) return vides;
+      if (EstSerieVide(serie)) {
+        ++vides;
+      } else {
+        Enregistrement(sortie, serie, static_cast<std::size_t>(premier + i + 1), d);
+      }
     }
-    Enregistrement(sortie, serie, numero, d);
   }
-  sortie << "  " << complets << " enregistrement(s)";
+  return vides;
+}
+
+// The record cut by the end of the file: where its reading stops.
+void EnregistrementIncomplet(std::ostream& sortie, std::istream& flux, const EtendueSeries& e, const std::string& nom) {
+  if (e.taille % kLongueurSerie == 0) return;
+  std::string reste(static_cast<std::size_t>(e.taille % kLongueurSerie), '\0');
+  flux.clear();
+  flux.seekg(static_cast<std::streamoff>(e.complets * kLongueurSerie));
+  flux.read(reste.data(), static_cast<std::streamsize>(reste.size()));
+  LecteurBinaire lecteur(reste, e.complets * kLongueurSerie);
+  SerieDonnees serie = SerieVide();
+  if (!LireSerieDonnees(lecteur, serie)) Interruption(sortie, lecteur.Erreur({}, nom, e.complets + 1));
+}
+
+// A series file, streamed: memory stays a block of records whatever its size.
+void FichierSeries(std::ostream& sortie, const std::filesystem::path& fichier, const DossierGeneral& d) {
+  const std::string nom = fichier.filename().string();
+  sortie << "\n-- " << nom << " --\n";
+  const auto taille = TailleFichierReguliere(fichier.string());
+  std::ifstream flux(fichier, std::ios::binary);
+  if (!taille || !flux) {
+    sortie << "  ! fichier " << nom << " illisible\n";
+    return;
+  }
+  const EtendueSeries e = Etendue(fichier.string(), *taille);
+  EnteteSeries(sortie, e, nom, d);
+  const uint64_t vides = ListerSeries(sortie, flux, e, d) + (e.complets - e.lus);
+  EnregistrementIncomplet(sortie, flux, e, nom);
+  sortie << "  " << e.complets << " enregistrement(s)";
   if (vides > 0) sortie << ", dont " << vides << " vide(s) non affiché(s)";
   sortie << "\n";
 }
@@ -217,10 +282,8 @@ std::vector<std::filesystem::path> FichiersSeries(const std::string& dossier) {
   return fichiers;
 }
 
-}  // namespace
-
-bool DecrireDossier(const std::string& cheminDossier, const std::array<Organisation, 20>& organisations,
-                      int16_t paramFinal, std::ostream& sortie) {
+bool Decrire(const std::string& cheminDossier, const std::array<Organisation, 20>& organisations, int16_t paramFinal,
+             const Resultat<void>& lectureParamLog, std::ostream& sortie) {
   std::string chemin = Trim(cheminDossier);
   std::replace(chemin.begin(), chemin.end(), '\\', '/');
   while (chemin.size() > 1 && chemin.back() == '/') chemin.pop_back();
@@ -233,12 +296,27 @@ bool DecrireDossier(const std::string& cheminDossier, const std::array<Organisat
   sortie << "Dossier : " << *dossier << "\n";
   DossierGeneral d;
   const bool lisible = EnregistrementGeneral(sortie, *dossier, std::filesystem::path(*dossier).filename().string(), d);
-  Organisations(sortie, organisations, paramFinal);
+  Organisations(sortie, organisations, paramFinal, lectureParamLog);
   sortie << "\n== Séries ==\n";
   const auto fichiers = FichiersSeries(*dossier);
   if (fichiers.empty()) sortie << "  (aucun fichier .DON)\n";
   for (const auto& fichier : fichiers) FichierSeries(sortie, fichier, d);
   return lisible;
+}
+
+}  // namespace
+
+bool DecrireDossier(const std::string& cheminDossier, const std::array<Organisation, 20>& organisations,
+                    int16_t paramFinal, std::ostream& sortie) {
+  return Decrire(cheminDossier, organisations, paramFinal, {}, sortie);
+}
+
+bool DecrireDossier(const std::string& cheminDossier, const Session& session, std::ostream& sortie) {
+  // Read again only to say where a damaged parameter file stops.
+  Session relue;
+  relue.RepWinTervol = session.RepWinTervol;
+  const Resultat<void> lecture = LireParamLog(relue);
+  return Decrire(cheminDossier, session.Organisations, session.ParamFinal, lecture, sortie);
 }
 
 }  // namespace norvane

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "study/Enregistrements.h"
+#include "study/Session.h"
 
 namespace norvane {
 
@@ -18,5 +19,8 @@ namespace norvane {
 // at all: no such folder, or no readable general record in it.
 bool DecrireDossier(const std::string& cheminDossier, const std::array<Organisation, 20>& organisations,
                       int16_t paramFinal, std::ostream& sortie);
+// The same with the session's organisations; a damaged ParamLog/Tervol.par is
+// named with the organisation, field and byte where its reading stops.
+bool DecrireDossier(const std::string& cheminDossier, const Session& session, std::ostream& sortie);
 
 }  // namespace norvane

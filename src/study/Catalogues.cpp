@@ -1,7 +1,19 @@
+// .CFG record, 118 bytes; the number of records is the file's length / 118,
+// truncated:
+//   OFFSET SIZE MEANING
+//   0      12   CodeCatalogue  series code "<name>-<number>", maybe ":<decimals>"
+//   12     22   Intitule       title; "[ sans nom ]" marks an unused entry
+//   34     40   Groupe1        first level of grouping, blank if none
+//   74     40   Groupe2        second level of grouping, blank if none
+//   114    2    Sorte          16-bit; 0 in record 1: the catalogue is empty;
+//                              1: a series line
+//   116    2    Reserve116     16-bit, not used
+// Record 1 is the head: its Intitule is the title of the whole tree.
 #include "study/Catalogues.h"
 
 #include <set>
 
+#include "frame/Disposition.h"
 #include "frame/OutilsFichiers.h"
 #include "frame/Texte.h"
 
@@ -9,6 +21,19 @@ namespace norvane {
 namespace {
 
 constexpr const char* kSansNom = "[ sans nom ]";
+
+namespace champ {
+constexpr ChampDisposition CodeCatalogue{"CodeCatalogue", 0, 12};
+constexpr ChampDisposition Intitule{"Intitule", 12, 22};
+constexpr ChampDisposition Groupe1{"Groupe1", 34, 40};
+constexpr ChampDisposition Groupe2{"Groupe2", 74, 40};
+constexpr ChampDisposition Sorte{"Sorte", 114, 2};
+constexpr ChampDisposition Reserve116{"Reserve116", 116, 2};
+}  // namespace champ
+
+constexpr ChampDisposition kChamps[] = {champ::CodeCatalogue, champ::Intitule, champ::Groupe1,
+                                        champ::Groupe2,       champ::Sorte,    champ::Reserve116};
+static_assert(PaveEnregistrement(kChamps, kLongueurEntreeCatalogue), "a catalogue record's fields tile 118 bytes");
 
 std::string CheminCatalogue(const std::string& catalogue, const std::string& repDatacfg) {
   if (catalogue.find_first_of("/\\") != std::string::npos) return catalogue;
@@ -47,12 +72,12 @@ class ConstructeurArbre {
 }  // namespace
 
 bool LireEntreeCatalogue(LecteurBinaire& l, EntreeCatalogue& e) {
-  l.LireTexte(e.CodeCatalogue, 12);
-  l.LireTexte(e.Intitule, 22);
-  l.LireTexte(e.Groupe1, 40);
-  l.LireTexte(e.Groupe2, 40);
-  l.Lire(e.Sorte);
-  l.Lire(e.Reserve116);
+  l.LireTexte(e.CodeCatalogue, champ::CodeCatalogue);
+  l.LireTexte(e.Intitule, champ::Intitule);
+  l.LireTexte(e.Groupe1, champ::Groupe1);
+  l.LireTexte(e.Groupe2, champ::Groupe2);
+  l.Lire(e.Sorte, champ::Sorte);
+  l.Lire(e.Reserve116, champ::Reserve116);
   return l.Ok();
 }
 

@@ -1,18 +1,8 @@
 // Catalogues (.CFG in Datacfg/): which series a theme file holds, under which
 // titles and groups. They feed the series trees of the choice dialogs.
 //
-// .CFG record, 118 bytes; the number of records is the file's length / 118,
-// truncated:
-//   OFFSET SIZE MEANING
-//   0      12   CodeCatalogue  series code "<name>-<number>", maybe ":<decimals>"
-//   12     22   Intitule       title; "[ sans nom ]" marks an unused entry
-//   34     40   Groupe1        first level of grouping, blank if none
-//   74     40   Groupe2        second level of grouping, blank if none
-//   114    2    Sorte          16-bit; 0 in record 1: the catalogue is empty;
-//                              1: a series line
-//   116    2    Reserve116     16-bit, not used
-// Record 1 is the head: its Intitule is the title of the whole tree.
-// RES.CFG describes RES.DON.
+// .CFG files are fixed records of 118 bytes; record 1 is the head (see
+// Catalogues.cpp for the layout). RES.CFG describes RES.DON.
 #pragma once
 
 #include <cstddef>

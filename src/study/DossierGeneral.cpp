@@ -35,8 +35,10 @@
 //   2090    20       Fax
 #include "study/DossierGeneral.h"
 
+#include <algorithm>
 #include <filesystem>
 
+#include "frame/Disposition.h"
 #include "frame/LecteurBinaire.h"
 #include "frame/OutilsFichiers.h"
 #include "frame/Texte.h"
@@ -45,51 +47,47 @@
 namespace norvane {
 namespace {
 
-// Start of each field of the layout above, for ChampDossierGeneral.
-struct ChampGeneral {
-  std::size_t debut;
-  const char* nom;
-  std::size_t largeur;  // of one element
-  std::size_t nombre;   // elements of an array, 1 for a plain field
-};
+// The layout above as data: readers take their widths from it.
+namespace champ {
+constexpr ChampDisposition CheminDossierTervol{"CheminDossierTervol", 0, 50};
+constexpr ChampDisposition NomDossierTervol{"NomDossierTervol", 50, 50};
+constexpr ChampDisposition NomExploitation{"NomExploitation", 100, 30};
+constexpr ChampDisposition Adresse{"Adresse", 130, 30};
+constexpr ChampDisposition Commune{"Commune", 160, 30};
+constexpr ChampDisposition Reserve190{"Reserve190", 190, 2};
+constexpr ChampDisposition AnneeDebut{"AnneeDebut", 192, 2};
+constexpr ChampDisposition NbAnEtude{"NbAnEtude", 194, 2};
+constexpr ChampDisposition TypeExploitation{"TypeExploitation", 196, 4};
+constexpr ChampDisposition DescriptionProjet{"DescriptionProjet", 200, 500};
+constexpr ChampDisposition DateDebut{"DateDebut", 700, 10};
+constexpr ChampDisposition Conseiller{"Conseiller", 710, 20};
+constexpr ChampDisposition NbAssocies{"NbAssocies", 730, 2};
+constexpr ChampDisposition NomAssocie{"NomAssocie", 732, 30, 11};
+constexpr ChampDisposition AssocieJA{"AssocieJA", 1062, 2, 11};
+constexpr ChampDisposition DateNaissance{"DateNaissance", 1084, 10, 11};
+constexpr ChampDisposition Situation{"Situation", 1194, 15, 11};
+constexpr ChampDisposition RegionAgricole{"RegionAgricole", 1359, 40};
+constexpr ChampDisposition AutresActivites{"AutresActivites", 1399, 40};
+constexpr ChampDisposition Banque{"Banque", 1439, 40};
+constexpr ChampDisposition NumeroAdherent{"NumeroAdherent", 1479, 15};
+constexpr ChampDisposition ModeCom{"ModeCom", 1494, 40, 14, 7};
+constexpr ChampDisposition MoisTva{"MoisTva", 2054, 2};
+constexpr ChampDisposition Reserve2056{"Reserve2056", 2056, 12};
+constexpr ChampDisposition Devise{"Devise", 2068, 2};
+constexpr ChampDisposition Telephone{"Telephone", 2070, 20};
+constexpr ChampDisposition Fax{"Fax", 2090, 20};
+}  // namespace champ
 
-constexpr ChampGeneral kChamps[] = {
-    {0, "CheminDossierTervol", 50, 1},
-    {50, "NomDossierTervol", 50, 1},
-    {100, "NomExploitation", 30, 1},
-    {130, "Adresse", 30, 1},
-    {160, "Commune", 30, 1},
-    {190, "Reserve190", 2, 1},
-    {192, "AnneeDebut", 2, 1},
-    {194, "NbAnEtude", 2, 1},
-    {196, "TypeExploitation", 4, 1},
-    {200, "DescriptionProjet", 500, 1},
-    {700, "DateDebut", 10, 1},
-    {710, "Conseiller", 20, 1},
-    {730, "NbAssocies", 2, 1},
-    {732, "NomAssocie", 30, 11},
-    {1062, "AssocieJA", 2, 11},
-    {1084, "DateNaissance", 10, 11},
-    {1194, "Situation", 15, 11},
-    {1359, "RegionAgricole", 40, 1},
-    {1399, "AutresActivites", 40, 1},
-    {1439, "Banque", 40, 1},
-    {1479, "NumeroAdherent", 15, 1},
-    {1494, "ModeCom", 40, 14},
-    {2054, "MoisTva", 2, 1},
-    {2056, "Reserve2056", 12, 1},
-    {2068, "Devise", 2, 1},
-    {2070, "Telephone", 20, 1},
-    {2090, "Fax", 20, 1},
+constexpr ChampDisposition kChamps[] = {
+    champ::CheminDossierTervol, champ::NomDossierTervol, champ::NomExploitation, champ::Adresse,
+    champ::Commune,             champ::Reserve190,       champ::AnneeDebut,      champ::NbAnEtude,
+    champ::TypeExploitation,    champ::DescriptionProjet, champ::DateDebut,      champ::Conseiller,
+    champ::NbAssocies,          champ::NomAssocie,       champ::AssocieJA,       champ::DateNaissance,
+    champ::Situation,           champ::RegionAgricole,   champ::AutresActivites, champ::Banque,
+    champ::NumeroAdherent,      champ::ModeCom,          champ::MoisTva,         champ::Reserve2056,
+    champ::Devise,              champ::Telephone,        champ::Fax,
 };
-
-std::string NomElement(const ChampGeneral& champ, std::size_t rang) {
-  if (champ.nombre == 1) return champ.nom;
-  if (champ.nombre == 14) {  // ModeCom: names of products 0 to 6, then their modes
-    return std::string(champ.nom) + "(" + std::to_string(rang % 7) + ", " + std::to_string(rang / 7) + ")";
-  }
-  return std::string(champ.nom) + "(" + std::to_string(rang) + ")";
-}
+static_assert(PaveEnregistrement(kChamps, kLongueurDossierGeneral), "the general record's fields tile 2110 bytes");
 
 bool EstFichier(const std::string& chemin) {
   auto reel = ResoudreChemin(chemin);
@@ -105,46 +103,83 @@ bool EstDossier(const std::string& chemin) {
 
 }  // namespace
 
-bool LireDossierGeneral(std::string_view octets, DossierGeneral& d) {
+Resultat<void> LireDossierGeneral(std::string_view octets, DossierGeneral& d, const std::string& fichier) {
   LecteurBinaire l(octets);
-  l.LireTexte(d.CheminDossierTervol, 50);
-  l.LireTexte(d.NomDossierTervol, 50);
-  l.LireTexte(d.NomExploitation, 30);
-  l.LireTexte(d.Adresse, 30);
-  l.LireTexte(d.Commune, 30);
-  l.Lire(d.Reserve190);
-  l.Lire(d.AnneeDebut);
-  l.Lire(d.NbAnEtude);
-  l.Lire(d.TypeExploitation);
-  l.LireTexte(d.DescriptionProjet, 500);
-  l.LireTexte(d.DateDebut, 10);
-  l.LireTexte(d.Conseiller, 20);
-  l.Lire(d.NbAssocies);
-  for (auto& nom : d.NomAssocie) l.LireTexte(nom, 30);
-  for (auto& ja : d.AssocieJA) l.Lire(ja);
-  for (auto& date : d.DateNaissance) l.LireTexte(date, 10);
-  for (auto& situation : d.Situation) l.LireTexte(situation, 15);
-  l.LireTexte(d.RegionAgricole, 40);
-  l.LireTexte(d.AutresActivites, 40);
-  l.LireTexte(d.Banque, 40);
-  l.LireTexte(d.NumeroAdherent, 15);
+  l.LireTexte(d.CheminDossierTervol, champ::CheminDossierTervol);
+  l.LireTexte(d.NomDossierTervol, champ::NomDossierTervol);
+  l.LireTexte(d.NomExploitation, champ::NomExploitation);
+  l.LireTexte(d.Adresse, champ::Adresse);
+  l.LireTexte(d.Commune, champ::Commune);
+  l.Lire(d.Reserve190, champ::Reserve190);
+  l.Lire(d.AnneeDebut, champ::AnneeDebut);
+  l.Lire(d.NbAnEtude, champ::NbAnEtude);
+  l.Lire(d.TypeExploitation, champ::TypeExploitation);
+  l.LireTexte(d.DescriptionProjet, champ::DescriptionProjet);
+  l.LireTexte(d.DateDebut, champ::DateDebut);
+  l.LireTexte(d.Conseiller, champ::Conseiller);
+  l.Lire(d.NbAssocies, champ::NbAssocies);
+  for (std::size_t i = 0; i < d.NomAssocie.size(); ++i) l.LireTexte(d.NomAssocie[i], champ::NomAssocie, i);
+  for (std::size_t i = 0; i < d.AssocieJA.size(); ++i) l.Lire(d.AssocieJA[i], champ::AssocieJA, i);
+  for (std::size_t i = 0; i < d.DateNaissance.size(); ++i) l.LireTexte(d.DateNaissance[i], champ::DateNaissance, i);
+  for (std::size_t i = 0; i < d.Situation.size(); ++i) l.LireTexte(d.Situation[i], champ::Situation, i);
+  l.LireTexte(d.RegionAgricole, champ::RegionAgricole);
+  l.LireTexte(d.AutresActivites, champ::AutresActivites);
+  l.LireTexte(d.Banque, champ::Banque);
+  l.LireTexte(d.NumeroAdherent, champ::NumeroAdherent);
   for (std::size_t colonne = 0; colonne < 2; ++colonne) {
-    for (auto& paire : d.ModeCom) l.LireTexte(paire[colonne], 40);
+    for (std::size_t p = 0; p < d.ModeCom.size(); ++p) {
+      l.LireTexte(d.ModeCom[p][colonne], champ::ModeCom, p + d.ModeCom.size() * colonne);
+    }
   }
-  l.Lire(d.MoisTva);
-  l.LireTexte(d.Reserve2056, 12);
-  l.Lire(d.Devise);
-  l.LireTexte(d.Telephone, 20);
-  l.LireTexte(d.Fax, 20);
-  return l.Ok();
+  l.Lire(d.MoisTva, champ::MoisTva);
+  l.LireTexte(d.Reserve2056, champ::Reserve2056);
+  l.Lire(d.Devise, champ::Devise);
+  l.LireTexte(d.Telephone, champ::Telephone);
+  l.LireTexte(d.Fax, champ::Fax);
+  if (l.Ok()) return {};
+  return l.Erreur("Enregistrement général incomplet : " + std::to_string(octets.size()) + " octets au lieu de " +
+                      std::to_string(kLongueurDossierGeneral) + ".",
+                  fichier, 1);
 }
 
-std::string ChampDossierGeneral(std::size_t position) {
-  for (const ChampGeneral& champ : kChamps) {
-    if (position < champ.debut || position >= champ.debut + champ.largeur * champ.nombre) continue;
-    return NomElement(champ, (position - champ.debut) / champ.largeur);
+bool LireDossierGeneral(std::string_view octets, DossierGeneral& dossier) {
+  return LireDossierGeneral(octets, dossier, std::string()).Ok();
+}
+
+std::string ChampDossierGeneral(std::size_t position) { return ChampA(kChamps, position); }
+
+std::string ProblemeDossier::Texte() const {
+  switch (sorte) {
+    case Sorte::Introuvable:
+      return "Le dossier " + chemin + " n'existe pas.";
+    case Sorte::PasUnDossier:
+      return chemin + " n'est pas un dossier d'étude (.TVL) mais un fichier.";
+    case Sorte::SansRecord:
+      return "Le dossier ne contient pas d'enregistrement général : " + chemin + " introuvable.";
+    case Sorte::RecordIllisible:
+      return "L'enregistrement général " + chemin + " ne peut pas être lu.";
+    case Sorte::RecordCourt:
+      break;
   }
-  return {};
+  return "Attention : l'enregistrement général " + chemin + (taille == 0 ? " est vide" : " est incomplet") + " (" +
+         std::to_string(taille) + " octets au lieu de " + std::to_string(kLongueurDossierGeneral) +
+         ") : les champs manquants restent vides.";
+}
+
+std::optional<ProblemeDossier> ExaminerDossier(const std::string& cheminDossier) {
+  std::string chemin = Trim(cheminDossier);
+  std::replace(chemin.begin(), chemin.end(), '\\', '/');
+  while (chemin.size() > 1 && chemin.back() == '/') chemin.pop_back();
+  using Sorte = ProblemeDossier::Sorte;
+  const auto dossier = ResoudreChemin(chemin);
+  if (chemin.empty() || !dossier) return ProblemeDossier{Sorte::Introuvable, chemin};
+  if (!EstDossier(*dossier)) return ProblemeDossier{Sorte::PasUnDossier, *dossier};
+  const std::string record = JoindreChemin(*dossier, std::filesystem::path(*dossier).filename().string());
+  const auto taille = TailleFichierReguliere(record);
+  if (!taille) return ProblemeDossier{Sorte::SansRecord, record};
+  if (!LireFichier(record, 1)) return ProblemeDossier{Sorte::RecordIllisible, record};
+  if (*taille < kLongueurDossierGeneral) return ProblemeDossier{Sorte::RecordCourt, record, *taille};
+  return std::nullopt;
 }
 
 std::string CheminRecordDossier(const Session& session, int slot) {
@@ -159,7 +194,8 @@ void ChargerInfoDossier(Session& session) {
   if (!EstFichier(chemin)) session.NomDossier[0].clear();
   if (!EstDossier(Trim(session.RepDossier[0]))) session.RepDossier[0].clear();
   if (EstBlanc(session.RepDossier[0]) || EstBlanc(session.NomDossier[0])) return;
-  if (auto octets = LireFichier(chemin)) LireDossierGeneral(*octets, session.InfoDossier);
+  // The record's 2110 bytes are all there is to read, whatever the file's size.
+  if (auto octets = LireFichier(chemin, kLongueurDossierGeneral)) LireDossierGeneral(*octets, session.InfoDossier);
 }
 
 }  // namespace norvane

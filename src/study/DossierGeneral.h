@@ -7,10 +7,13 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
-#include "frame/Session.h"
+#include "frame/Resultat.h"
+#include "study/Session.h"
 #include "study/Enregistrements.h"
 
 namespace norvane {
@@ -18,8 +21,36 @@ namespace norvane {
 constexpr std::size_t kLongueurDossierGeneral = 2110;
 
 // Fills `dossier` from the bytes of a record file. A short file leaves the
-// fields behind its end as they were. True when the whole record was there.
+// fields behind its end as they were; the error then names `fichier`, the
+// field and the byte where the record stops. Bytes past the record are ignored.
+Resultat<void> LireDossierGeneral(std::string_view octets, DossierGeneral& dossier, const std::string& fichier);
+// The same without a file name: true when the whole record was there.
 bool LireDossierGeneral(std::string_view octets, DossierGeneral& dossier);
+
+// What stands in the way of a dossier named by the user (command line).
+struct ProblemeDossier {
+  enum class Sorte {
+    Introuvable,     // no such folder
+    PasUnDossier,    // the path names a file
+    SansRecord,      // no general record file inside the folder
+    RecordIllisible, // the record file cannot be read
+    RecordCourt,     // the record file is empty or shorter than 2110 bytes
+  };
+  Sorte sorte;
+  std::string chemin;   // the folder, or the record file for the last three
+  uint64_t taille = 0;  // size of a short record file
+
+  // A dossier that cannot be read is refused; a short record only warrants a
+  // warning, the generation goes on with blanks for the missing fields.
+  bool Bloquant() const { return sorte != Sorte::RecordCourt; }
+  // The French text that tells the user.
+  std::string Texte() const;
+};
+
+// Examines the dossier folder `cheminDossier` ("\" accepted, names matched
+// without regard to case) and its general record. std::nullopt when the
+// record is whole.
+std::optional<ProblemeDossier> ExaminerDossier(const std::string& cheminDossier);
 
 // Name of the field that starts at or covers `position` of the record
 // ("NomAssocie(2)", "Fax"...), for diagnostics; empty past the record.

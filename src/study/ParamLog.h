@@ -9,7 +9,8 @@
 #include <string_view>
 
 #include "frame/LecteurBinaire.h"
-#include "frame/Session.h"
+#include "frame/Resultat.h"
+#include "study/Session.h"
 #include "study/Enregistrements.h"
 
 namespace norvane {
@@ -33,12 +34,15 @@ constexpr ChampEnteteParamLog kEnteteParamLog[] = {
 bool LireOrganisation(LecteurBinaire& lecteur, Organisation& organisation);
 
 // Reads the whole stream: Organisations(0), the head, ParamFinal,
-// Organisations(1..19), ParamFinal again. The first failed read ends it
-// silently; what was read stays.
-void LireParamLogOctets(std::string_view octets, std::array<Organisation, 20>& organisations, int16_t& paramFinal);
+// Organisations(1..19), ParamFinal again. The first failed read ends it; what
+// was read stays, and the error names the organisation, the field and the
+// byte where the stream stops. Bytes past the stream are ignored.
+Resultat<void> LireParamLogOctets(std::string_view octets, std::array<Organisation, 20>& organisations,
+                                  int16_t& paramFinal);
 
 // Reads RepWinTervol + "ParamLog/Tervol.par" into session.Organisations and
-// session.ParamFinal. A missing file leaves them as they are (blank at start).
-void LireParamLog(Session& session);
+// session.ParamFinal. A missing file leaves them as they are (blank at start)
+// and is no error.
+Resultat<void> LireParamLog(Session& session);
 
 }  // namespace norvane

@@ -1,13 +1,12 @@
 #include "study/Series.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 
 #include "frame/Encodage.h"
 #include "frame/FormatNombre.h"
 #include "frame/OutilsFichiers.h"
 #include "frame/Texte.h"
+#include "study/TexteEtude.h"
 
 namespace norvane {
 namespace {
@@ -38,12 +37,9 @@ std::string Apres(std::string_view texte, long position) {
   return std::string(texte.substr(static_cast<std::size_t>(position) + 1));
 }
 
-uintmax_t TailleReelle(const std::string& chemin) {
-  auto reel = ResoudreChemin(chemin);
-  std::error_code erreur;
-  if (!reel || !std::filesystem::is_regular_file(*reel, erreur)) return 0;
-  auto taille = std::filesystem::file_size(*reel, erreur);
-  return erreur ? 0 : taille;
+uint64_t TailleReelle(const ContexteSeries& contexte, const std::string& chemin) {
+  if (contexte.cache != nullptr) return contexte.cache->Taille(chemin);
+  return TailleFichierReguliere(chemin).value_or(0);
 }
 
 std::string FichierDeFamille(const ContexteSeries& contexte, char famille) {
@@ -92,16 +88,17 @@ float Colonne(const SerieDonnees& serie, int annee) {
   return annee >= 0 && annee <= kDerniereColonne ? serie.Valeur[static_cast<std::size_t>(annee)] : 0.0f;
 }
 
-std::string Valeur(const std::string& fichier, int32_t numero, int annee, int16_t& decimales) {
-  const SerieDonnees serie = LireEnregistrementSerie(fichier, numero);
+std::string Valeur(const ContexteSeries& contexte, const std::string& fichier, int32_t numero, int annee,
+                   int16_t& decimales) {
+  const SerieDonnees serie = LireEnregistrementSerie(contexte, fichier, numero);
   if (decimales == -1) decimales = DecimalesDeCode(serie.CodeSerie);
   return FormatNombre(Colonne(serie, annee), decimales, false);
 }
 
 // Selectors i and u: the label in lower case before the "|", or the unit behind it.
-std::string Libelle(const CodeSerieLu& lu) {
+std::string Libelle(const ContexteSeries& contexte, const CodeSerieLu& lu) {
   const SerieDonnees serie =
-      LireEnregistrementSerie(lu.fichier, NumeroDerriere(Apres(lu.selecteur, 0), lu.numeroParDefaut));
+      LireEnregistrementSerie(contexte, lu.fichier, NumeroDerriere(Apres(lu.selecteur, 0), lu.numeroParDefaut));
   const std::size_t barre = serie.Intitule.find('|');
   if (lu.selecteur[0] == 'u') return barre == std::string::npos ? std::string() : serie.Intitule.substr(barre + 1);
   return Minuscules(serie.Intitule.substr(0, barre));
@@ -116,8 +113,8 @@ std::string Statistique(const ContexteSeries& contexte, const CodeSerieLu& lu, c
     return {};
   }
   const bool formeAnnee = lu.selecteur.size() > 3 && lu.selecteur[3] == 'a';
-  const SerieDonnees serie =
-      LireEnregistrementSerie(lu.fichier, NumeroDerriere(Apres(lu.selecteur, formeAnnee ? 3 : 2), lu.numeroParDefaut));
+  const SerieDonnees serie = LireEnregistrementSerie(
+      contexte, lu.fichier, NumeroDerriere(Apres(lu.selecteur, formeAnnee ? 3 : 2), lu.numeroParDefaut));
   const int nbAnnees = std::min<int>(contexte.session.InfoDossier.NbAnEtude, kDerniereColonne);
   float acc = serie.Valeur[1];
   int rang = 0;
@@ -138,11 +135,11 @@ std::string Statistique(const ContexteSeries& contexte, const CodeSerieLu& lu, c
 
 // Selector of a year: one digit before an "a" ("3a17"), else two ("12a17");
 // the record stands behind the "a".
-std::string ValeurAnnee(const CodeSerieLu& lu, int16_t& decimales) {
+std::string ValeurAnnee(const ContexteSeries& contexte, const CodeSerieLu& lu, int16_t& decimales) {
   const std::size_t chiffres = lu.selecteur.size() > 1 && lu.selecteur[1] == 'a' ? 1 : 2;
   const int annee = EntierDe(lu.selecteur.substr(0, chiffres));
-  return Valeur(lu.fichier, NumeroDerriere(Apres(lu.selecteur, static_cast<long>(chiffres)), lu.numeroParDefaut), annee,
-                decimales);
+  return Valeur(contexte, lu.fichier,
+                NumeroDerriere(Apres(lu.selecteur, static_cast<long>(chiffres)), lu.numeroParDefaut), annee, decimales);
 }
 
 // Step of the selector when no year is given.
@@ -154,56 +151,28 @@ std::string ParSelecteur(const ContexteSeries& contexte, const CodeSerieLu& lu, 
   switch (premier) {
     case 'i':
     case 'u':
-      return Libelle(lu);
+      return TexteEtudePourRtf(Libelle(contexte, lu));
     case 'c':
-      return entites.TitreCultureCourante();
+      return TexteEtudePourRtf(entites.TitreCultureCourante());
     case 'n':
-      return entites.NomCultureCourante();
+      return TexteEtudePourRtf(entites.NomCultureCourante());
     case 'p':
-      return suiviDeC ? entites.TitreCulturePCourante() : entites.NomCulturePCourante();
+      return TexteEtudePourRtf(suiviDeC ? entites.TitreCulturePCourante() : entites.NomCulturePCourante());
     case 'a':
-      return suiviDeC ? std::string() : entites.NomActivite();
+      return suiviDeC ? std::string() : TexteEtudePourRtf(entites.NomActivite());
     case 'm':
     case 's':
       return Statistique(contexte, lu, code, decimales);
     default:
-      return ValeurAnnee(lu, decimales);
+      return ValeurAnnee(contexte, lu, decimales);
   }
 }
 
 }  // namespace
 
-SerieDonnees SerieVide() {
-  SerieDonnees serie;
-  serie.CodeSerie.assign(12, ' ');
-  serie.Intitule.assign(22, ' ');
-  return serie;
-}
-
-bool LireSerieDonnees(LecteurBinaire& l, SerieDonnees& serie) {
-  l.LireTexte(serie.CodeSerie, 12);
-  l.LireTexte(serie.Intitule, 22);
-  for (float& valeur : serie.Valeur) l.Lire(valeur);
-  return l.Ok();
-}
-
-SerieDonnees LireEnregistrementSerie(const std::string& fichier, int32_t numero) {
-  SerieDonnees serie = SerieVide();
-  auto reel = ResoudreChemin(fichier);
-  if (numero < 1 || !reel) return serie;
-  std::ifstream flux(*reel, std::ios::binary);
-  flux.seekg(static_cast<std::streamoff>(numero - 1) * static_cast<std::streamoff>(kLongueurSerie));
-  char octets[kLongueurSerie];
-  flux.read(octets, sizeof octets);
-  if (flux.gcount() <= 0) return serie;
-  LecteurBinaire lecteur(std::string_view(octets, static_cast<std::size_t>(flux.gcount())));
-  LireSerieDonnees(lecteur, serie);
-  return serie;
-}
-
-int16_t DecimalesDeCode(std::string_view codeSerie) {
-  const std::size_t deuxPoints = codeSerie.find(':');
-  return Entier16De(deuxPoints == std::string_view::npos ? codeSerie : codeSerie.substr(deuxPoints + 1));
+SerieDonnees LireEnregistrementSerie(const ContexteSeries& contexte, const std::string& fichier, int32_t numero) {
+  if (contexte.cache != nullptr) return contexte.cache->Enregistrement(fichier, numero);
+  return LireEnregistrementSerie(fichier, numero);
 }
 
 std::string DossierDuSlot(const Session& session, int slot) {
@@ -224,8 +193,10 @@ std::string LireSerie(const ContexteSeries& contexte, std::string& code, int16_t
     }
     lu = {DossierDuSlot(contexte.session, dossier) + code.substr(0, plus), Apres(code, tiret), 0};
   }
-  if (TailleReelle(lu.fichier) == 0) return {};
-  if (annee != -1) return Valeur(lu.fichier, NumeroDerriere(lu.selecteur, lu.numeroParDefaut), annee, decimales);
+  if (TailleReelle(contexte, lu.fichier) == 0) return {};
+  if (annee != -1) {
+    return Valeur(contexte, lu.fichier, NumeroDerriere(lu.selecteur, lu.numeroParDefaut), annee, decimales);
+  }
   return ParSelecteur(contexte, lu, code, decimales);
 }
 

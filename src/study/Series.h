@@ -1,49 +1,32 @@
-// Series files (.DON) and the series reader.
-//
-// .DON record, 90 bytes, numbered from 1:
-//   OFFSET SIZE MEANING
-//   0      12   CodeSerie  "<name>-<number>:<decimals>"
-//   12     22   Intitule   "<label>|<unit>"
-//   34     56   Valeur(0..13), 32-bit little-endian floats; column 0 is the
-//               year before the study, column 1 study year 1
+// The series reader: resolves a series code to text. The .DON records it
+// reads are described in FichierSeries.h.
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-#include "frame/LecteurBinaire.h"
 #include "frame/Ports.h"
-#include "frame/Session.h"
+#include "study/CacheEtude.h"
 #include "study/Enregistrements.h"
 #include "study/EntitesCourantes.h"
+#include "study/FichierSeries.h"
+#include "study/Session.h"
 
 namespace norvane {
 
-constexpr std::size_t kLongueurSerie = 90;
-
-// What the series reader needs besides the code.
+// What the series reader needs besides the code. `cache`: the files of the
+// generation in hand, read once each; null reads the files at each call.
 struct ContexteSeries {
   const Session& session;
   PortMessages& messages;
   const EntitesCourantes& entites;
+  CacheEtude* cache = nullptr;
 };
 
-// A series record (90 bytes) at the reader's position; a field that runs past
-// the end stays as it was.
-bool LireSerieDonnees(LecteurBinaire& lecteur, SerieDonnees& serie);
-
-// A record of zeros and blanks: what a record past a file's end reads as.
-SerieDonnees SerieVide();
-
-// Record `numero` (from 1) of a .DON file found case-insensitively. A record
-// past the end, a number below 1, or a file that cannot be read, gives zeros
-// and blanks; a record cut by the end of the file keeps what it has.
-SerieDonnees LireEnregistrementSerie(const std::string& fichier, int32_t numero);
-
-// Default decimals of a series: the integer behind the first ":" of CodeSerie;
-// without ":", the leading integer of the whole field (0 when there is none).
-int16_t DecimalesDeCode(std::string_view codeSerie);
+// Record `numero` of a .DON file as LireEnregistrementSerie reads it, through
+// the context's cache when it has one.
+SerieDonnees LireEnregistrementSerie(const ContexteSeries& contexte, const std::string& fichier, int32_t numero);
 
 // Folder of dossier slot n: AjouterAntislash(RepDossier(n)) + AjouterAntislash(NomDossier(n)).
 std::string DossierDuSlot(const Session& session, int slot);
@@ -60,7 +43,9 @@ std::string DossierDuSlot(const Session& session, int slot);
 // A code starting with "@" loses the "@" and its family letter, in `code` too.
 // `tiret`: 0-based index in `code` of the "-" that the interpreter chose.
 // `annee`: -1 lets the selector decide. `decimales`: -1 lets the record decide
-// and comes back filled in. `dossier`: slot 0 to 9.
+// and comes back filled in. `dossier`: slot 0 to 9. Texts taken from the
+// study (labels, units, names of crops and activities) come back made safe
+// for RTF (TexteEtude.h); numbers come back as FormatNombre writes them.
 std::string LireSerie(const ContexteSeries& contexte, std::string& code, int16_t tiret, int16_t& annee,
                       int16_t& decimales, int16_t dossier);
 

@@ -1,10 +1,13 @@
 // The associates of a société as the vocabulary shows them: lists of one
 // "\par "-ended line per associate, and single names.
+#include "template/Associes.h"
+
 #include <algorithm>
 #include <functional>
 
 #include "frame/Encodage.h"
 #include "frame/Texte.h"
+#include "study/TexteEtude.h"
 #include "template/InterpreteurInterne.h"
 
 namespace norvane {
@@ -14,7 +17,7 @@ constexpr std::string_view kFinLigne = "\\par ";
 
 int NbAssociesBorne(const DossierGeneral& info) { return std::clamp<int>(info.NbAssocies, 0, 10); }
 
-bool EstJA(const DossierGeneral& info, int i) { return info.AssocieJA[i] == 1; }
+bool EstJA(const DossierGeneral& info, int i) { return info.AssocieJA[static_cast<std::size_t>(i)] == 1; }
 
 // `entete` (Windows-1252), then in a société one line per associate made by
 // `ligne`, which may give nothing for an associate it leaves out.
@@ -24,11 +27,14 @@ std::string Liste(const DossierGeneral& info, std::string entete, const std::fun
   return entete;
 }
 
-std::string Tiret(const DossierGeneral& info, int i) { return "- " + Trim(info.NomAssocie[i]); }
+// A text of the record made safe for RTF, trimmed.
+std::string Etude(std::string_view champ) { return TexteEtudePourRtf(Trim(champ)); }
+
+std::string Tiret(const DossierGeneral& info, int i) { return "- " + Etude(info.NomAssocie[static_cast<std::size_t>(i)]); }
 
 // "- name : detail\par ", or "- name : non renseignée\par " for a blank detail.
 std::string LigneDetail(const DossierGeneral& info, int i, const std::string& detail) {
-  const std::string d = Trim(detail);
+  const std::string d = Etude(detail);
   if (d.empty()) return Tiret(info, i) + Utf8VersCp1252(" : non renseignée") + std::string(kFinLigne);
   return Tiret(info, i) + " : " + d + std::string(kFinLigne);
 }
@@ -43,14 +49,14 @@ int AssociePrincipal(const DossierGeneral& info) {
 }
 
 std::string NomSocieteAssocies(const DossierGeneral& info) {
-  const std::string entete = Utf8VersCp1252("Nom société : ") + Trim(info.NomExploitation) + std::string(kFinLigne);
+  const std::string entete = Utf8VersCp1252("Nom société : ") + Etude(info.NomExploitation) + std::string(kFinLigne);
   return Liste(info, entete, [&](int i) { return Tiret(info, i) + std::string(kFinLigne); });
 }
 
 std::string ListeAssocies(const DossierGeneral& info) {
   return Liste(info, Utf8VersCp1252("Liste des associés : \\par "), [&](int i) {
     std::string ligne = Tiret(info, i);
-    const std::string date = Trim(info.DateNaissance[i]);
+    const std::string date = Etude(info.DateNaissance[static_cast<std::size_t>(i)]);
     if (!date.empty()) ligne += Utf8VersCp1252(", né(e) le : ") + date;
     if (EstJA(info, i)) ligne += ", Jeune Agriculteur";
     return ligne + std::string(kFinLigne);
@@ -64,12 +70,12 @@ std::string NomsAssocies(const DossierGeneral& info) {
 
 std::string NaissancesAssocies(const DossierGeneral& info) {
   return Liste(info, Utf8VersCp1252("Date de naissance des associés : \\par "),
-               [&](int i) { return LigneDetail(info, i, info.DateNaissance[i]); });
+               [&](int i) { return LigneDetail(info, i, info.DateNaissance[static_cast<std::size_t>(i)]); });
 }
 
 std::string SituationsAssocies(const DossierGeneral& info) {
   return Liste(info, Utf8VersCp1252("Situation familiale des associés : \\par "),
-               [&](int i) { return LigneDetail(info, i, info.Situation[i]); });
+               [&](int i) { return LigneDetail(info, i, info.Situation[static_cast<std::size_t>(i)]); });
 }
 
 std::string NomsAssociesJA(const DossierGeneral& info) {
@@ -88,7 +94,7 @@ std::string NombreAssociesJA(const DossierGeneral& info) {
 
 std::string NomAssocieNumero(const DossierGeneral& info, int n) {
   if (!info.EstSociete() || n < 0 || n > 10) return {};
-  return (EstJA(info, n) ? "JA : " : "") + Trim(info.NomAssocie[n]);
+  return (EstJA(info, n) ? "JA : " : "") + Etude(info.NomAssocie[static_cast<std::size_t>(n)]);
 }
 
 }  // namespace norvane

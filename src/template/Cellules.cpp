@@ -2,6 +2,8 @@
 // with the "#tvl(" of the table's own code. Each is interpreted in place,
 // without annotation, and the scan goes on behind its value, so a value is
 // never read again as a code.
+#include "template/Cellules.h"
+
 #include "template/Directives.h"
 #include "template/Interpreteur.h"
 

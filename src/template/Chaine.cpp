@@ -2,6 +2,8 @@
 // words in table order, then ORGA, INFO:, INI:, date(, crop and activity
 // tables, tables, graphs, formulas, and last the series form. The first hit
 // decides. Words are case-sensitive; ORGA, INFO: and INI: are not.
+#include "template/IssueCode.h"
+
 #include <algorithm>
 
 #include "frame/Encodage.h"

@@ -1,12 +1,15 @@
 // The vocabulary of general fields: each word of a code that shows a field of
 // the dossier's general record, with its help phrase. Words are compared
 // exactly, case included, and the first row that matches decides.
+#include "template/ChampsGeneraux.h"
+
 #include <span>
 #include <string_view>
 #include <vector>
 
 #include "frame/Encodage.h"
 #include "frame/Texte.h"
+#include "study/TexteEtude.h"
 #include "template/Interpreteur.h"
 #include "template/InterpreteurInterne.h"
 
@@ -31,6 +34,10 @@ constexpr int kSeul = -1;
 
 const DossierGeneral& Info(const Generation& g) { return g.session.InfoDossier; }
 
+// A field of the dossier as it may enter the RTF: braces and "\" escaped,
+// stray control bytes dropped.
+std::string Etude(std::string_view champ) { return TexteEtudePourRtf(champ); }
+
 std::vector<std::string> LignesDescription(const DossierGeneral& info) {
   std::vector<std::string> lignes;
   std::string_view texte = info.DescriptionProjet;
@@ -48,21 +55,22 @@ std::string JoindreDescription(const DossierGeneral& info, std::size_t premiere,
   std::string r;
   for (std::size_t i = premiere; i < lignes.size(); ++i) {
     if (i > premiere) r += lien;
-    r += Trim(lignes[i]);
+    r += TexteEtudePourRtf(Trim(lignes[i]));
   }
   return r;
 }
 
 std::string LigneDescription(const DossierGeneral& info, int n) {
   const auto lignes = LignesDescription(info);
-  return n >= 1 && static_cast<std::size_t>(n) <= lignes.size() ? lignes[n - 1] : std::string();
+  return n >= 1 && static_cast<std::size_t>(n) <= lignes.size() ? TexteEtudePourRtf(lignes[static_cast<std::size_t>(n - 1)])
+                                                                 : std::string();
 }
 
 std::string ModeCommercialisation(const DossierGeneral& info) {
   std::string r = Utf8VersCp1252("Mode de commercialisation des produits de l'exploitation : \\par ");
   for (int i = 1; i <= 6; ++i) {
-    const std::string produit = Trim(info.ModeCom[i][0]);
-    const std::string mode = Trim(info.ModeCom[i][1]);
+    const std::string produit = TexteEtudePourRtf(Trim(info.ModeCom[static_cast<std::size_t>(i)][0]));
+    const std::string mode = TexteEtudePourRtf(Trim(info.ModeCom[static_cast<std::size_t>(i)][1]));
     if (produit.empty()) continue;
     r += "- " + produit + (mode.empty() ? Utf8VersCp1252(" : non renseigné\\par ") : " : " + mode + "\\par ");
   }
@@ -70,22 +78,22 @@ std::string ModeCommercialisation(const DossierGeneral& info) {
 }
 
 std::string ModeCommercialisation(const DossierGeneral& info, int i) {
-  const std::string produit = Trim(info.ModeCom[i][0]);
-  const std::string mode = Trim(info.ModeCom[i][1]);
+  const std::string produit = TexteEtudePourRtf(Trim(info.ModeCom[static_cast<std::size_t>(i)][0]));
+  const std::string mode = TexteEtudePourRtf(Trim(info.ModeCom[static_cast<std::size_t>(i)][1]));
   if (produit.empty()) return {};
   return mode.empty() ? " " : "- " + produit + " : " + mode + " ";
 }
 
 std::string SituationExploitant(const DossierGeneral& info) {
-  if (!info.EstSociete()) return Minuscules(info.Situation[0]);
+  if (!info.EstSociete()) return TexteEtudePourRtf(Minuscules(info.Situation[0]));
   const int p = AssociePrincipal(info);
-  return p < 0 ? std::string() : Minuscules(info.Situation[p]);
+  return p < 0 ? std::string() : TexteEtudePourRtf(Minuscules(info.Situation[static_cast<std::size_t>(p)]));
 }
 
 std::string AgeExploitant(const Generation& g) {
   const auto& info = Info(g);
   const int p = info.EstSociete() ? AssociePrincipal(info) : 0;
-  return AgeEnAnnees(p < 0 ? std::string() : info.DateNaissance[p], g.Maintenant());
+  return AgeEnAnnees(p < 0 ? std::string() : info.DateNaissance[static_cast<std::size_t>(p)], g.Maintenant());
 }
 
 std::span<const Mot> Vocabulaire() {
@@ -96,21 +104,21 @@ std::span<const Mot> Vocabulaire() {
        "un numéro de page incrémenté de 1 à chaque apparition de ce code."},
       {"numPage2bis", kSeul, kSeul, [](Generation& g, int) { return NumeroPage(g, "numPage2bis"); },
        "un numéro de page incrémenté de 1 à chaque apparition de ce code."},
-      {"nomExplSoc", kSeul, kSeul, [](Generation& g, int) { return Info(g).NomExploitation; },
+      {"nomExplSoc", kSeul, kSeul, [](Generation& g, int) { return Etude(Info(g).NomExploitation); },
        "le nom de l'exploitant ou de la société."},
       {"nomExplJA", kSeul, kSeul,
        [](Generation& g, int) -> std::string {
          const auto& info = Info(g);
-         if (!info.EstSociete()) return info.NomExploitation;
+         if (!info.EstSociete()) return Etude(info.NomExploitation);
          const int p = AssociePrincipal(info);
-         return p < 0 ? std::string() : info.NomAssocie[p];
+         return p < 0 ? std::string() : Etude(info.NomAssocie[static_cast<std::size_t>(p)]);
        },
        "le nom de l'exploitant ou du premier associé JA dans le cas d'une société."},
       {"nomExploit", kSeul, kSeul,
-       [](Generation& g, int) { return Info(g).EstSociete() ? std::string() : Info(g).NomExploitation; },
+       [](Generation& g, int) { return Info(g).EstSociete() ? std::string() : Etude(Info(g).NomExploitation); },
        "le nom de l'exploitant ( champ laissé vide dans le cas d'une société )."},
       {"nomSociete", kSeul, kSeul,
-       [](Generation& g, int) { return Info(g).EstSociete() ? Info(g).NomExploitation : std::string(); },
+       [](Generation& g, int) { return Info(g).EstSociete() ? Etude(Info(g).NomExploitation) : std::string(); },
        "le nom de la société ( champ laissé vide dans le cas d'une exploitation individuelle )."},
       {"nomSocAss", kSeul, kSeul, [](Generation& g, int) { return NomSocieteAssocies(Info(g)); },
        "le nom de la société avec les différents partenaires ( champ laissé vide si exploit. individuelle ).",
@@ -122,20 +130,20 @@ std::span<const Mot> Vocabulaire() {
       {"typeSoc", kSeul, kSeul,
        [](Generation& g, int) { return Utf8VersCp1252(Info(g).EstSociete() ? "société" : "individuelle"); },
        "le type d'exploitation : individuelle ou société."},
-      {"adresse", kSeul, kSeul, [](Generation& g, int) { return Info(g).Adresse; },
+      {"adresse", kSeul, kSeul, [](Generation& g, int) { return Etude(Info(g).Adresse); },
        "l'adresse postale de l'exploitation."},
-      {"commune", kSeul, kSeul, [](Generation& g, int) { return Info(g).Commune; },
+      {"commune", kSeul, kSeul, [](Generation& g, int) { return Etude(Info(g).Commune); },
        "la commune où se situe l'exploitation."},
-      {"tel", kSeul, kSeul, [](Generation& g, int) { return Info(g).Telephone; },
+      {"tel", kSeul, kSeul, [](Generation& g, int) { return Etude(Info(g).Telephone); },
        "le numéro de téléphone de l'exploitation."},
-      {"fax", kSeul, kSeul, [](Generation& g, int) { return Info(g).Fax; }, "le numéro de fax de l'exploitation."},
-      {"regionAgri", kSeul, kSeul, [](Generation& g, int) { return Info(g).RegionAgricole; },
+      {"fax", kSeul, kSeul, [](Generation& g, int) { return Etude(Info(g).Fax); }, "le numéro de fax de l'exploitation."},
+      {"regionAgri", kSeul, kSeul, [](Generation& g, int) { return Etude(Info(g).RegionAgricole); },
        "la région agricole de l'exploitation."},
-      {"activAutre", kSeul, kSeul, [](Generation& g, int) { return Info(g).AutresActivites; },
+      {"activAutre", kSeul, kSeul, [](Generation& g, int) { return Etude(Info(g).AutresActivites); },
        "la ou les autres activités de l'exploitation."},
-      {"banque", kSeul, kSeul, [](Generation& g, int) { return Info(g).Banque; },
+      {"banque", kSeul, kSeul, [](Generation& g, int) { return Etude(Info(g).Banque); },
        "la banque dont dépend l'exploitation."},
-      {"numAdh", kSeul, kSeul, [](Generation& g, int) { return Info(g).NumeroAdherent; }, "le numéro d'adhérent."},
+      {"numAdh", kSeul, kSeul, [](Generation& g, int) { return Etude(Info(g).NumeroAdherent); }, "le numéro d'adhérent."},
       {"associes", kSeul, kSeul, [](Generation& g, int) { return ListeAssocies(Info(g)); },
        "les informations connues pour chaque associé dans le cas d'une société."},
       {"nbAssocies", kSeul, kSeul, [](Generation& g, int) { return std::to_string(Info(g).NbAssocies); },
@@ -152,11 +160,11 @@ std::span<const Mot> Vocabulaire() {
        "la liste ( nom ) des associés JA dans le cas d'une société."},
       {"nomAss", 1, 10, [](Generation& g, int n) { return NomAssocieNumero(Info(g), n); },
        "le nom de l'associé numéro <n> dans le cas d'une société."},
-      {"dateDebut", kSeul, kSeul, [](Generation& g, int) { return Info(g).DateDebut; },
+      {"dateDebut", kSeul, kSeul, [](Generation& g, int) { return Etude(Info(g).DateDebut); },
        "la date début de l'étude prévisionnelle."},
       {"nbAnEtude", kSeul, kSeul, [](Generation& g, int) { return std::to_string(Info(g).NbAnEtude); },
        "le nombre d'année d'étude."},
-      {"conseiller", kSeul, kSeul, [](Generation& g, int) { return Info(g).Conseiller; },
+      {"conseiller", kSeul, kSeul, [](Generation& g, int) { return Etude(Info(g).Conseiller); },
        "le nom du conseiller ayant mené l'étude sur Tervol."},
       {"descProjet", kSeul, kSeul, [](Generation& g, int) { return JoindreDescription(Info(g), 0, "\\par"); },
        "la description du projet."},
@@ -164,10 +172,10 @@ std::span<const Mot> Vocabulaire() {
        "la description du projet."},
       {"descProjet4etFin", kSeul, kSeul, [](Generation& g, int) { return JoindreDescription(Info(g), 3, " "); },
        "la description du projet."},
-      {"nomDossier", kSeul, kSeul, [](Generation& g, int) { return Info(g).NomDossierTervol; },
+      {"nomDossier", kSeul, kSeul, [](Generation& g, int) { return Etude(Info(g).NomDossierTervol); },
        "le nom du dossier."},
       {"cheminDoss", kSeul, kSeul,
-       [](Generation& g, int) { return RemplacerTout(Trim(Info(g).CheminDossierTervol), "\\", "\\\\"); },
+       [](Generation& g, int) { return Etude(Trim(Info(g).CheminDossierTervol)); },  // "\" doubled
        "le chemin du dossier."},
       {"dateDossier", kSeul, kSeul, [](Generation& g, int) { return DateDossier(Info(g)); },
        "la date de création du dossier."},

@@ -1,4 +1,4 @@
-// Conditions "si(...)alors:" and the page numbers numPage2 / numPage2bis.
+// Conditions "si(...)alors:".
 //
 // A condition ending in "<>0" is false when its text, or the series it names
 // (column 7 always, decimals of the record, current dossier), is empty or
@@ -7,7 +7,8 @@
 #include "frame/Encodage.h"
 #include "frame/Texte.h"
 #include "study/Series.h"
-#include "template/InterpreteurInterne.h"
+#include "template/Conditions.h"
+#include "template/Textes.h"
 
 namespace norvane {
 namespace {
@@ -51,12 +52,6 @@ Condition EvaluerCondition(Generation& generation, std::string& code) {
   }
   if (Minuscules(condition) == "transfoperenne=vrai") generation.etat.TransfoPerenne = true;
   return Condition::Vraie;
-}
-
-std::string NumeroPage(Generation& generation, const std::string& code) {
-  auto& compteur = generation.etat.NumPageCompteur;
-  compteur = static_cast<int16_t>(compteur + 1);
-  return "\\v0 " + code.substr(7) + "-" + std::to_string(compteur);
 }
 
 }  // namespace norvane

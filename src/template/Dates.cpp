@@ -27,6 +27,8 @@
 //
 // Month abbreviations of form 2: janv. févr. mars avr. mai juin juil. août
 // sept. oct. nov. déc. Accented letters are written in Windows-1252.
+#include "template/Dates.h"
+
 #include <array>
 #include <chrono>
 #include <filesystem>
@@ -67,12 +69,12 @@ Moment Decomposer(const std::tm& t) {
 
 // UTF-8.
 std::string Formater(const Moment& m, int n) {
-  const std::string longue = std::to_string(m.jour) + " " + std::string(kMois[m.mois - 1]) + " " + m.aaaa;
+  const std::string longue = std::to_string(m.jour) + " " + std::string(kMois[static_cast<std::size_t>(m.mois - 1)]) + " " + m.aaaa;
   const std::string courte = m.jj + "/" + m.mm + "/" + m.aaaa;
   switch (n) {
-    case 0: return std::string(kJours[m.jourSemaine]) + " " + longue;
+    case 0: return std::string(kJours[static_cast<std::size_t>(m.jourSemaine)]) + " " + longue;
     case 1: return longue;
-    case 2: return m.jj + "-" + std::string(kMoisAbreges[m.mois - 1]) + "-" + m.aa;
+    case 2: return m.jj + "-" + std::string(kMoisAbreges[static_cast<std::size_t>(m.mois - 1)]) + "-" + m.aa;
     case 3: case 4: case 8: return courte;
     case 5: return m.jj + " - " + m.mm + " - " + m.aaaa;
     case 6: return m.jj + "-" + m.mm + "-" + m.aa;

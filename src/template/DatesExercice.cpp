@@ -5,6 +5,8 @@
 // d years - 1 day. an2Fin/an4Fin take the year of DateDebut + d years
 // without the day's subtraction, so a study starting on 1 January reads its
 // end year one too high: the old documents were made so.
+#include "template/DatesExercice.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -24,7 +26,7 @@ bool Bissextile(int annee) { return (annee % 4 == 0 && annee % 100 != 0) || anne
 
 int JoursDuMois(int mois, int annee) {
   constexpr std::array<int, 12> jours = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  return mois == 2 && Bissextile(annee) ? 29 : jours[mois - 1];
+  return mois == 2 && Bissextile(annee) ? 29 : jours[static_cast<std::size_t>(mois - 1)];
 }
 
 // A field of one to `largeur` digits.
@@ -74,7 +76,7 @@ DateCivile VeilleDe(DateCivile date) {
 std::string MoisClair(int mois) {
   static constexpr std::array<std::string_view, 12> noms = {"Jan.", "Fév.", "Mars", "Avr.", "Mai",  "Juin",
                                                             "Juil.", "Août", "Sep.", "Oct.", "Nov.", "Déc."};
-  return mois >= 1 && mois <= 12 ? Utf8VersCp1252(noms[mois - 1]) : std::string();
+  return mois >= 1 && mois <= 12 ? Utf8VersCp1252(noms[static_cast<std::size_t>(mois - 1)]) : std::string();
 }
 
 std::string DateExercice(const DossierGeneral& info, int d) {

@@ -2,6 +2,8 @@
 // "INI:Cle" reads key Cle of section "Général"; "INI:Sect:Cle" key Cle of
 // section Sect; "INI:a:b:c" key c of section a (the section ends at the first
 // ":", the key starts behind the last one).
+#include "template/DonneesIni.h"
+
 #include "frame/Encodage.h"
 #include "frame/OutilsFichiers.h"
 #include "frame/clsINI.h"
@@ -23,16 +25,19 @@ std::string LireDonneeIni(Generation& generation, std::string& code) {
     section = code.substr(kDebutSection, premier - kDebutSection);
     cle = code.substr(code.rfind(':') + 1);
   }
-  const auto fichier = ResoudreChemin(generation.session.RepNorvane + "donnees.INI");
-  if (!fichier) {
+  // Read once per generation: a template of many INI: codes parses the file once.
+  const std::string chemin = generation.session.RepNorvane + "donnees.INI";
+  const ProfilIni* profil = generation.etat.Fichiers.Profil(chemin);
+  if (profil == nullptr && !ResoudreChemin(chemin)) {
     generation.messages.PoserQuestion("Norvane",
                                       "Attention ! Le fichier \"donnees.INI\" n'existe pas dans le répertoire de "
                                       "Wintervol\\Norvane\\ ! Données non récupérable !",
                                       Boutons::Ok, Icone::Exclamation, 0);
     return {};
   }
+  if (profil == nullptr) return {};
   clsINI ini;
-  return ini.GetKeyFromSection(cle, section, *fichier);
+  return ini.GetKeyFromSection(*profil, cle, section);
 }
 
 }  // namespace norvane

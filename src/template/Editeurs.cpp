@@ -4,11 +4,6 @@
 #include "template/Generateur.h"
 
 namespace norvane {
-namespace {
-
-constexpr char kAucunEditeur[] = "Aucun traitement de texte n'est actuellement lié à Norvane !";
-
-}  // namespace
 
 int IndexEditeur(const Options& options) {
   const std::string nom = NomEditeur(options);
@@ -18,25 +13,30 @@ int IndexEditeur(const Options& options) {
   return 0;
 }
 
+void SignalerAucunEditeur(PortMessages& messages, const std::string& conseil) {
+  messages.AfficherMessage("CreationDoc", kTitreErreurDetectee,
+                           "Aucun traitement de texte n'est actuellement lié à Norvane !", conseil, "");
+}
+
 void OuvrirDocument(Generation& g, const std::string& chemin) {
   const int editeur = IndexEditeur(g.session.options);
   if (editeur == 0) {
-    g.messages.AfficherMessage("CreationDoc", kTitreErreurDetectee, kAucunEditeur,
-                               "Sélectionnez un traitement de texte dans \"PROPRIETES\" puis cliquez à nouveau sur "
-                               "\"DOCUMENT\" -> \"OUVRIR\".",
-                               "");
+    SignalerAucunEditeur(g.messages,
+                         "Sélectionnez un traitement de texte dans \"PROPRIETES\" puis cliquez à nouveau sur "
+                         "\"DOCUMENT\" -> \"OUVRIR\".");
     return;
   }
   if (g.editeur) g.editeur->OuvrirDocument(editeur, chemin);
 }
 
-void SauvegarderParEditeur(Generation& g, const std::string& chemin, const std::string& conseil) {
+bool SauvegarderParEditeur(Generation& g, const std::string& source, const std::string& chemin,
+                           const std::string& conseil) {
   const int editeur = IndexEditeur(g.session.options);
   if (editeur == 0) {
-    g.messages.AfficherMessage("CreationDoc", kTitreErreurDetectee, kAucunEditeur, conseil, "");
-    return;
+    SignalerAucunEditeur(g.messages, conseil);
+    return false;
   }
-  if (g.editeur) g.editeur->SauvegarderSous(false, editeur, chemin);
+  return g.editeur && g.editeur->SauvegarderSous(true, editeur, source, chemin);
 }
 
 }  // namespace norvane

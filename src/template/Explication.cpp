@@ -1,6 +1,8 @@
 // Explain mode: the help box that tells what a selected code shows and what
 // it would give with the dossier in hand. Table, crop and graph codes are not
 // computed there: their box tells what kind of table or which graph it is.
+#include "template/Explication.h"
+
 #include "frame/Encodage.h"
 #include "frame/Texte.h"
 #include "template/InterpreteurInterne.h"

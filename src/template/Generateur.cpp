@@ -1,5 +1,6 @@
 #include "template/Generateur.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "frame/Encodage.h"
@@ -57,33 +58,22 @@ class Creation : public ParcoursMorceaux {
     g_.etat.DernierResultat = -1;
     const std::size_t p = morceau_.Trouver(paragraphe_);
     if (p == std::string::npos) return;
-    const std::string& t = morceau_.Texte();
-    std::string nouveau = t.substr(morceau_.Debut(), p + 2 - morceau_.Debut());
-    if (p + 5 < t.size()) nouveau.append(t, p + 5);
-    morceau_.Remplacer(std::move(nouveau));
+    morceau_.Retoucher(p + 2, std::min(p + 5, morceau_.Texte().size()), {});
   }
 
   void EtendreTables() {
-    if (morceau_.Trouver(tablePolices_) != std::string::npos) {
-      std::string reste(morceau_.Reste());
-      EtendrePolices(reste);
-      morceau_.Remplacer(std::move(reste));
-    }
-    if (morceau_.Trouver(tableCouleurs_) != std::string::npos) {
-      std::string reste(morceau_.Reste());
-      EtendreCouleurs(reste, g_.etat.ProchaineCouleur);
-      morceau_.Remplacer(std::move(reste));
-    }
+    EtendrePolices(morceau_, tables_);
+    EtendreCouleurs(morceau_, tables_, g_.etat.ProchaineCouleur);
   }
 
-  // Bookmarks inside a start mark are moved out, once for each form a round.
+  // Bookmarks inside a start mark are moved out, once for each form a round;
+  // the text keeps its length, so the edit is made where it stands.
   void ReparerSignets() {
     for (std::size_t k = 0; k < 3; ++k) {
       const std::size_t p = morceau_.Trouver(signets_[k]);
       if (p == std::string::npos) continue;
-      std::string reste(morceau_.Reste());
-      reste.replace(p - morceau_.Debut(), kSignetsDansMarque[k].first.size(), kSignetsDansMarque[k].second);
-      morceau_.Remplacer(std::move(reste));
+      const auto& [forme, reparee] = kSignetsDansMarque[k];
+      morceau_.Retoucher(p, p + forme.size(), reparee);
     }
   }
 
@@ -136,11 +126,9 @@ class Creation : public ParcoursMorceaux {
   RechercheMemorisee debutCode_{"#tvl(", true};
   RechercheMemorisee finCode_{")#", false};
   RechercheMemorisee paragraphe_{"\\par", true};
-  RechercheMemorisee tablePolices_{"{\\fonttbl", true};
-  RechercheMemorisee tableCouleurs_{"{\\colortbl;", true};
-  RechercheMemorisee signets_[3] = {{kSignetsDansMarque[0].first, false},
-                                    {kSignetsDansMarque[1].first, false},
-                                    {kSignetsDansMarque[2].first, false}};
+  RecherchesTables tables_;
+  RechercheMemorisee signets_[3] = {
+      {kSignetsDansMarque[0].first, false}, {kSignetsDansMarque[1].first, false}, {kSignetsDansMarque[2].first, false}};
 };
 
 void PreparerGeneration(Generation& g) {
@@ -159,30 +147,37 @@ bool RemplacementRefuse(Generation& g, const std::string& resultat) {
 }
 
 // Steps after the writing: conversion, opening, and the removal of the RTF
-// twin of a .doc result.
+// twin of a .doc result. A result that is not RTF is converted before it is
+// opened, so that the user never sees RTF under another format's name.
 void Finir(Generation& g, std::string resultat, bool sansOuvrir) {
   if (g.session.options.OptimisationOOo == 1 && g.editeur && resultat.size() >= 3) {
-    // The OpenOffice driver loads the result itself to save it as .doc.
-    resultat = resultat.substr(0, resultat.size() - 3) + "doc";
+    // The OpenOffice driver loads the result itself to save it as .doc; it
+    // stays open when OpenOffice is the bound editor.
+    const std::string doc = resultat.substr(0, resultat.size() - 3) + "doc";
     const bool ouvertDansEditeur = IndexEditeur(g.session.options) == kEditeurOpenOffice;
-    g.editeur->SauvegarderSous(!ouvertDansEditeur, kEditeurOpenOffice, resultat);
-    if (ouvertDansEditeur) sansOuvrir = true;
+    if (g.editeur->SauvegarderSous(!ouvertDansEditeur, kEditeurOpenOffice, resultat, doc) && ouvertDansEditeur) {
+      sansOuvrir = true;
+    }
+    resultat = doc;
   }
+  if (!FinitPar(resultat, ".RTF", true)) SauvegarderParEditeur(g, resultat, resultat, kConseilCreerDoc);
   if (!sansOuvrir) OuvrirDocument(g, resultat);
-  if (!FinitPar(resultat, ".RTF", true)) {
-    SauvegarderParEditeur(g, resultat,
-                          "Sélectionnez un traitement de texte dans \"PROPRIETES\" -> \"AUTRE CHOIX\" puis cliquez à "
-                          "nouveau sur \"CREER DOC\".");
-  }
   if (FinitPar(resultat, ".doc", true)) SupprimeFichier(resultat.substr(0, resultat.size() - 3) + "rtf");
 }
 
 }  // namespace
 
 ResultatDocument CreerDocument(Generation& g, const std::string& modele, const std::string& resultat,
-                               bool miseAJour, bool sansOuvrir, bool demanderRemplacement) {
+                               const OptionsCreation& options) {
+  const auto [miseAJour, sansOuvrir, demanderRemplacement] = options;
   ResultatDocument r;
   PreparerGeneration(g);
+  // The files this generation read are let go when it ends, whichever way it ends.
+  struct FinLectures {
+    Generation& generation;
+    ~FinLectures() { generation.etat.Fichiers = CacheEtude(); }
+  } finLectures{g};
+  if (!Trim(modele).empty() && EcritureRefusee(g, miseAJour ? std::string() : modele, resultat)) return r;
   if (Trim(modele).empty() || (!miseAJour && demanderRemplacement && RemplacementRefuse(g, resultat))) {
     r.abandonne = true;
     return r;

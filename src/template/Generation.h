@@ -10,7 +10,8 @@
 #include <string>
 
 #include "frame/Ports.h"
-#include "frame/Session.h"
+#include "study/Session.h"
+#include "study/CacheEtude.h"
 #include "study/EntitesCourantes.h"
 #include "study/Series.h"
 
@@ -57,10 +58,12 @@ class LignesTableau {
 class PortEditeur {
  public:
   virtual ~PortEditeur() = default;
+  // Opens a document for the user.
   virtual void OuvrirDocument(int editeur, const std::string& chemin) = 0;
-  // Saves the open document (opening it first if needed) under `chemin`, in
-  // the format its extension names.
-  virtual void SauvegarderSous(bool fermer, int editeur, const std::string& chemin) = 0;
+  // The document `source` saved under `chemin`, in the format its extension
+  // names, by the driver `editeur`. `fermer` false leaves the result open
+  // for the user. True when `chemin` holds the result.
+  virtual bool SauvegarderSous(bool fermer, int editeur, const std::string& source, const std::string& chemin) = 0;
 };
 
 // State of one run of CreerDocument, zeroed at its start.
@@ -71,6 +74,10 @@ struct EtatGeneration {
   // Literal "#tvl(...)#" of the code being interpreted, before cleaning.
   std::string CodeCourant;
   int16_t DernierResultat = -1;
+  // The study files and donnees.INI as this generation reads them: each
+  // opened once, dropped with the state so that the next generation sees the
+  // files as they are then. Mutable: reading through it changes no result.
+  mutable CacheEtude Fichiers;
 };
 
 struct Generation {
@@ -94,7 +101,7 @@ struct Generation {
 
   EtatGeneration etat;
 
-  ContexteSeries Series() const { return ContexteSeries{session, messages, *entites}; }
+  ContexteSeries Series() const { return ContexteSeries{session, messages, *entites, &etat.Fichiers}; }
   std::time_t Maintenant() const { return horloge ? horloge() : std::time(nullptr); }
 };
 

@@ -7,11 +7,12 @@
 #include "frame/OutilsFichiers.h"
 #include "frame/Texte.h"
 #include "template/Directives.h"
+#include "template/ImageRtf.h"
 
 namespace norvane {
 namespace {
 
-constexpr int kTwipsParPixel = 15;  // 1440 twips an inch, 96 pixels an inch
+constexpr uint32_t kTwipsParPixel = 15;  // 1440 twips an inch, 96 pixels an inch
 
 struct Image {
   std::string_view sorte;  // "pngblip" or "jpegblip"
@@ -68,17 +69,6 @@ std::optional<Image> LireJpeg(std::string_view d) {
   return std::nullopt;
 }
 
-std::string Hexadecimal(std::string_view donnees) {
-  constexpr char chiffres[] = "0123456789abcdef";
-  std::string r;
-  r.reserve(donnees.size() * 2);
-  for (unsigned char c : donnees) {
-    r += chiffres[c >> 4];
-    r += chiffres[c & 0x0F];
-  }
-  return r;
-}
-
 }  // namespace
 
 std::string ImageVersRtfDirecte(const std::string& chemin) {
@@ -89,12 +79,9 @@ std::string ImageVersRtfDirecte(const std::string& chemin) {
   auto image = LirePng(*donnees);
   if (!image) image = LireJpeg(*donnees);
   if (!image || image->largeur == 0 || image->hauteur == 0) return {};
-  const auto l = std::to_string(image->largeur);
-  const auto h = std::to_string(image->hauteur);
-  const auto lt = std::to_string(static_cast<uint64_t>(image->largeur) * kTwipsParPixel);
-  const auto ht = std::to_string(static_cast<uint64_t>(image->hauteur) * kTwipsParPixel);
-  return "{\\pict\\" + std::string(image->sorte) + "\\picw" + l + "\\pich" + h + "\\picwgoal" + lt + "\\pichgoal" +
-         ht + " " + Hexadecimal(*donnees) + "}";
+  const TailleImageRtf taille{image->largeur, image->hauteur, image->largeur * kTwipsParPixel,
+                              image->hauteur * kTwipsParPixel};
+  return GroupeImageRtf(image->sorte, taille, *donnees);
 }
 
 std::string ImageVersRtf(Generation& generation, const std::string& chemin) {

@@ -2,6 +2,8 @@
 // annotation anchored on its mark. It is written from the literal code as the
 // template holds it (CodeCourant), so that its texts keep their case and
 // blanks; a "_" stands for a blank.
+#include "template/InfoBulle.h"
+
 #include <array>
 
 #include "frame/Encodage.h"

@@ -19,15 +19,9 @@ int16_t InterpreterPortion(Generation& generation, std::string& texte, bool expl
 int16_t InterpreterCode(Generation& generation, std::string& texte, std::size_t debut, std::size_t& suite,
                         std::size_t fin, bool explication, bool sansAnnotation);
 
-// Removes the RTF a word processor left inside a code.
-void NettoyerCode(std::string& texte);
-
 // Replaces texte[debut, fin + 2) by the trimmed value ("\~" when empty);
 // returns the index behind the value.
 std::size_t InsererValeur(Generation& generation, std::string& texte, std::size_t debut, std::size_t fin,
                           const std::string& valeur, bool sansAnnotation);
-
-// "Jan.", "Fév."... (Windows-1252); empty outside 1..12.
-std::string MoisClair(int mois);
 
 }  // namespace norvane

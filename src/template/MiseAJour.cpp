@@ -32,8 +32,7 @@ class MiseAJour : public ParcoursMorceaux {
     const std::size_t code = morceau_.Trouver(marqueCode_);
     // The end mark is looked for behind the code's start, so that a ")#" in
     // the shown value cannot cut the field short.
-    const std::size_t fin =
-        code == std::string::npos ? code : finCode_.Trouver(morceau_.Texte(), code, morceau_.Version());
+    const std::size_t fin = code == std::string::npos ? code : morceau_.TrouverDepuis(finCode_, code);
     if (fin == std::string::npos) return Incomplet(i);
     std::string champ = morceau_.Texte().substr(code, fin + 2 - code);
     InterpreterPortion(g_, champ, false);
@@ -59,17 +58,33 @@ class MiseAJour : public ParcoursMorceaux {
   RechercheMemorisee finCode_{")#", false};
 };
 
+// A Word document cannot be read as text: an RTF copy is made by the word
+// processor, and the update works on that copy. Empty when it could not be.
+std::string CopieRtf(Generation& g, const std::string& document) {
+  const std::string copie = document.substr(0, document.size() - 4) + ".rtf";
+  g.messages.PoserQuestion("Norvane utilise le format texte enrichi ( RTF ) !",
+                           "Pour mettre à jour votre document MS Word, Norvane va devoir créer une copie convertie au "
+                           "RTF.\nSouhaitez-vous continuer en autorisant la création de \n" +
+                               document.substr(0, document.size() - 4) +
+                               ".rtf ?\n( si un fichier de ce nom existe déjà dans ce répertoire, il sera alors "
+                               "perdu ! )",
+                           Boutons::Ok, Icone::Information, 0);
+  if (!SauvegarderParEditeur(g, document, copie, kConseilCreerDoc)) return {};
+  g.messages.AfficherMessage("MiseAJour", "Cliquez OK pour lancer la mise à jour !",
+                             "Norvane a terminé la conversion au RTF de votre document MS Word.",
+                             "La mise à jour du document MS Word va pouvoir se faire à partir de la copie RTF.", "seule");
+  return copie;
+}
+
 }  // namespace
 
-ResultatDocument MettreAJourDocument(Generation& g, const std::string& document, const std::string& resultat,
+ResultatDocument MettreAJourDocument(Generation& g, const std::string& aMettreAJour, const std::string& resultat,
                                      bool sansOuvrir) {
   ResultatDocument r;
+  std::string document = aMettreAJour;
   if (FinitPar(document, ".doc", true)) {
-    g.messages.AfficherMessage("MiseAJour", kTitreErreurDetectee,
-                               "La mise à jour d'un document MS Word demande sa conversion au RTF par le traitement "
-                               "de texte.",
-                               "Enregistrez d'abord le document au format RTF, puis mettez à jour cette copie.", "");
-    return r;
+    document = CopieRtf(g, document);
+    if (document.empty()) return r;
   }
   auto contenu = LireDocument(g, document, "Le document", "Vérifiez le chemin du document à mettre à jour.");
   if (!contenu) return r;
@@ -81,14 +96,12 @@ ResultatDocument MettreAJourDocument(Generation& g, const std::string& document,
   r.nbChampsMisAJour = miseAJour.NbChamps();
   r.ecrit = EcrireDocument(g, document, texte);
   miseAJour.Progression().Terminer("        " + std::to_string(r.nbChampsMisAJour) + " champs mis à jour !");
-  if (!sansOuvrir) OuvrirDocument(g, document);
   // An RTF result is final as written; any other format goes back through
-  // the word processor.
+  // the word processor, before the user sees it.
   if (!resultat.empty() && !FinitPar(resultat, ".rtf", true)) {
-    SauvegarderParEditeur(g, resultat,
-                          "Sélectionnez un traitement de texte dans \"PROPRIETES\" -> \"AUTRE CHOIX\" puis cliquez à "
-                          "nouveau sur \"CREER DOC\".");
+    SauvegarderParEditeur(g, document, resultat, kConseilCreerDoc);
   }
+  if (!sansOuvrir) OuvrirDocument(g, FinitPar(resultat, ".rtf", true) ? document : resultat);
   if (FinitPar(resultat, ".doc", true)) SupprimeFichier(resultat.substr(0, resultat.size() - 3) + "rtf");
   return r;
 }

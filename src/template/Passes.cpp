@@ -4,14 +4,16 @@
 #include <fstream>
 
 #include "frame/Encodage.h"
+#include "frame/GardeEcriture.h"
 #include "frame/OutilsFichiers.h"
+#include "frame/Texte.h"
 
 namespace norvane {
 
 bool PassageProprietes::Passer(MorceauCourant& morceau, Sortie& sortie) {
   const std::size_t titre = morceau.Trouver(titre_);
   if (titre == std::string::npos) return false;
-  std::size_t fin = auteur_.Trouver(morceau.Texte(), titre, morceau.Version());
+  std::size_t fin = morceau.TrouverDepuis(auteur_, titre);
   std::size_t longueur = 7;
   if (fin == std::string::npos) {
     fin = morceau.Trouver(societe_);
@@ -79,6 +81,27 @@ std::optional<std::string> LireDocument(Generation& g, const std::string& chemin
                                quoi + " \"" + chemin + "\" est introuvable ou illisible.", conseil, "");
   }
   return contenu;
+}
+
+bool EcritureRefusee(Generation& g, const std::string& modele, const std::string& resultat) {
+  DemandeEcriture demande;
+  if (!modele.empty()) demande.lus.push_back(modele);
+  for (std::size_t n = 0; n < g.session.NomDossier.size(); ++n) {
+    if (EstBlanc(g.session.NomDossier[n])) continue;
+    demande.dossiers.push_back(JoindreChemin(g.session.RepDossier[n], g.session.NomDossier[n]));
+  }
+  std::vector<std::string> cibles{resultat};
+  const std::string souche = resultat.size() >= 3 ? resultat.substr(0, resultat.size() - 3) : std::string();
+  if (FinitPar(resultat, ".doc", true)) cibles.push_back(souche + "rtf");  // removed once the .doc is made
+  if (g.session.options.OptimisationOOo == 1 && !souche.empty()) cibles.push_back(souche + "doc");
+  for (const std::string& cible : cibles) {
+    demande.cible = cible;
+    if (auto refus = RefusEcriture(demande)) {
+      g.messages.AfficherMessage("CreationDoc", kTitreErreurDetectee, *refus, kConseilRefusEcriture, "");
+      return true;
+    }
+  }
+  return false;
 }
 
 bool EcrireDocument(Generation& g, const std::string& chemin, const std::string& texte) {

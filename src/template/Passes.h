@@ -85,6 +85,11 @@ class ParcoursMorceaux {
 // saying that `quoi` (its French designation) cannot be read, when it cannot.
 std::optional<std::string> LireDocument(Generation& generation, const std::string& chemin, const std::string& quoi,
                                         const std::string& conseil);
+// True, after the box saying why, when the guard of GardeEcriture refuses
+// the result (or a file that finishing it writes or removes beside it): the
+// template itself, a file of a study dossier of the session, a store.
+// `modele` is empty in an update, which rewrites its document in place.
+bool EcritureRefusee(Generation& generation, const std::string& modele, const std::string& resultat);
 // Writes a result; false, after the box saying so, when it cannot be written.
 bool EcrireDocument(Generation& generation, const std::string& chemin, const std::string& texte);
 

@@ -7,6 +7,7 @@
 
 #include "frame/Encodage.h"
 #include "frame/Texte.h"
+#include "study/TexteEtude.h"
 #include "template/Formules.h"
 
 namespace norvane {
@@ -35,7 +36,8 @@ bool DossierChoisi(const Session& session) {
 // The record, or zeros and blanks when there is no dossier or no such record.
 SerieDonnees Lire(const Generation& generation, const ReferenceSerie& r) {
   if (!DossierChoisi(generation.session) || r.enregistrement < 1) return {};
-  return LireEnregistrementSerie(DossierDuSlot(generation.session, 0) + r.fichier + ".DON", r.enregistrement);
+  return LireEnregistrementSerie(generation.Series(), DossierDuSlot(generation.session, 0) + r.fichier + ".DON",
+                                 r.enregistrement);
 }
 
 // Cuts "!A<year>" off the reference; returns the text behind "!A", or
@@ -100,7 +102,7 @@ std::string LibelleLigne(Generation& generation, std::string& reference) {
   if (intitule.empty() || intitule[0] == '\0') {
     return Utf8VersCp1252("Enregistrement n°") + std::to_string(r.enregistrement) + " de " + r.fichier;
   }
-  return intitule;
+  return TexteEtudePourRtf(intitule);
 }
 
 }  // namespace norvane

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
 
 #include "frame/Texte.h"
 
@@ -52,20 +53,17 @@ constexpr std::string_view kCouleursAjoutees =
     "\\red128\\green0\\blue0;\\red128\\green128\\blue0;\\red128\\green128\\blue128;\\red192\\green192\\blue192";
 
 // "{\f5000\fnil Abadi MT Condensed Light;}{\f5001\fnil AGaramond;}..."
-std::string EntreesPolices() {
-  std::string entrees;
-  for (int numero = kPremierePolice; numero <= kDernierePolice; ++numero) {
-    entrees += "{\\f" + std::to_string(numero) + "\\fnil ";
-    entrees += NomPolice(numero);
-    entrees += ";}";
-  }
+const std::string& EntreesPolices() {
+  static const std::string entrees = [] {
+    std::string t;
+    for (int numero = kPremierePolice; numero <= kDernierePolice; ++numero) {
+      t += "{\\f" + std::to_string(numero) + "\\fnil ";
+      t += NomPolice(numero);
+      t += ";}";
+    }
+    return t;
+  }();
   return entrees;
-}
-
-std::size_t Compter(std::string_view texte, std::string_view motif) {
-  std::size_t n = 0;
-  for (std::size_t p = texte.find(motif); p != std::string_view::npos; p = texte.find(motif, p + motif.size())) ++n;
-  return n;
 }
 
 }  // namespace
@@ -82,25 +80,41 @@ std::string NumeroPolice(const std::string& nom) {
   return std::string(kNumeroParDefaut);
 }
 
-void EtendrePolices(std::string& texte) {
-  constexpr std::string_view kMot = "{\\fonttbl";
-  std::size_t p = ChercherSansCasse(texte, kMot);
-  if (p == std::string::npos) return;
-  texte.insert(p + kMot.size(), EntreesPolices());
+void EtendrePolices(MorceauCourant& morceau, RecherchesTables& recherches) {
+  constexpr std::size_t kMot = 9;  // "{\fonttbl"
+  const std::size_t p = morceau.Trouver(recherches.polices);
+  if (p != std::string::npos) morceau.Retoucher(p + kMot, p + kMot, EntreesPolices());
 }
 
 // The template's colours are counted by their ";\" separators, from the
 // table's start to the end of the piece. The program's colours go behind the
 // table's last ";", followed again by ";}", so the table keeps a terminated
 // last entry: "{\colortbl;" + colours + ";}" for an empty table.
-void EtendreCouleurs(std::string& texte, int16_t& prochaineCouleur) {
-  std::size_t debut = texte.find("{\\colortbl;");
+void EtendreCouleurs(MorceauCourant& morceau, RecherchesTables& recherches, int16_t& prochaineCouleur) {
+  const std::size_t debut = morceau.Trouver(recherches.couleurs);
   if (debut == std::string::npos) return;
-  std::size_t fin = texte.find(";}", debut);
+  const std::size_t fin = morceau.TrouverDepuis(recherches.finCouleurs, debut);
   if (fin == std::string::npos) return;
-  std::size_t nombre = std::min<std::size_t>(Compter(std::string_view(texte).substr(debut), ";\\"), 32767);
+  const std::size_t nombre = std::min<std::size_t>(morceau.Compter(recherches.separateurs, debut), 32767);
   prochaineCouleur = static_cast<int16_t>(std::min<int>(prochaineCouleur + static_cast<int>(nombre), 32767));
-  texte.insert(fin + 1, std::string(kCouleursAjoutees) + ";");
+  static const std::string ajout = std::string(kCouleursAjoutees) + ";";
+  morceau.Retoucher(fin + 1, fin + 1, ajout);
+}
+
+void EtendrePolices(std::string& texte) {
+  MorceauCourant morceau;
+  morceau.Charger(std::move(texte));
+  RecherchesTables recherches;
+  EtendrePolices(morceau, recherches);
+  texte = morceau.Reste();
+}
+
+void EtendreCouleurs(std::string& texte, int16_t& prochaineCouleur) {
+  MorceauCourant morceau;
+  morceau.Charger(std::move(texte));
+  RecherchesTables recherches;
+  EtendreCouleurs(morceau, recherches, prochaineCouleur);
+  texte = morceau.Reste();
 }
 
 }  // namespace norvane

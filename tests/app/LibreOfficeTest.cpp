@@ -7,7 +7,7 @@
 #include <filesystem>
 
 #include "app/Programme.h"
-#include "frame/DossierTemporaire.h"
+#include "support/DossierTemporaire.h"
 
 namespace norvane::test {
 namespace {

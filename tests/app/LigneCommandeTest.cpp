@@ -3,7 +3,7 @@
 
 #include "app/OptionsLigne.h"
 #include "app/Programme.h"
-#include "frame/DossierTemporaire.h"
+#include "support/DossierTemporaire.h"
 
 namespace norvane::test {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "frame/DossierTemporaire.h"
+#include "support/DossierTemporaire.h"
 #include "frame/OutilsFichiers.h"
 
 namespace norvane {
@@ -17,7 +17,7 @@ TEST(InitChemins, TheRootIsWhatStandsBeforeTheFirstNorvaneInAnyCaseAndTheFolders
       {"/usr/local/bin", ""},                         // none: every folder is relative to the working one
   };
   for (const auto& [dossier, racine] : cas) {
-    Session s;
+    SessionCadre s;
     InitChemins(s, dossier);
     EXPECT_EQ(s.RepWinTervol, racine) << dossier;
     EXPECT_EQ(s.RepDatacfg, racine + "Datacfg/") << dossier;
@@ -29,7 +29,7 @@ TEST(InitChemins, TheRootIsWhatStandsBeforeTheFirstNorvaneInAnyCaseAndTheFolders
 
 TEST(InitChemins, TheGuideIsTheInstalledFolderOrElseTheOnlineAddress) {
   test::DossierTemporaire tmp;
-  Session s;
+  SessionCadre s;
   InitChemins(s, tmp / "Norvane");
   EXPECT_EQ(s.RepGuide, kAdresseGuideEnLigne);
   CreeArborescence(tmp / "Norvane/GuideNorvane/");

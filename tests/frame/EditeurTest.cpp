@@ -4,9 +4,9 @@
 
 #include <tuple>
 
-#include "frame/DossierTemporaire.h"
+#include "support/DossierTemporaire.h"
 #include "frame/Parametres.h"
-#include "frame/PortsScriptes.h"
+#include "support/PortsScriptes.h"
 
 namespace norvane {
 namespace {
@@ -53,7 +53,7 @@ class ValiderEditeurTest : public ::testing::Test {
   void SetUp() override { session.RepNorvane = tmp / "Norvane/"; }
   std::string CheminEnregistre() const { return ChargerParametres(session.RepNorvane).options.CheminEditeur; }
   test::DossierTemporaire tmp;
-  Session session;
+  SessionCadre session;
   MessagesScriptes messages;
 };
 

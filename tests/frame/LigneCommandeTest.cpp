@@ -36,7 +36,7 @@ TEST(DecouperArgumentDossier, BlankMarkersInAnyCaseThenFolderAndNameOnTheLastSep
       {"/home/a\\b/MARTIN.TVL", "/home/a\\b/", "MARTIN.TVL"},
       {"SEUL.TVL", "", "SEUL.TVL"}};
   for (const auto& [argument, rep, nom] : cas) {
-    Session s;
+    SessionCadre s;
     DecouperArgumentDossier(argument, s);
     EXPECT_EQ(s.RepDossier[0], rep) << argument;
     EXPECT_EQ(s.NomDossier[0], nom) << argument;

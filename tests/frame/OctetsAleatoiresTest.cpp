@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "frame/DossierTemporaire.h"
+#include "support/DossierTemporaire.h"
 #include "frame/Parametres.h"
 #include "frame/clsINI.h"
 

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <iterator>
 
-#include "frame/DossierTemporaire.h"
+#include "support/DossierTemporaire.h"
 
 namespace norvane {
 namespace {

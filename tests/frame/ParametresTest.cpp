@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-#include "frame/DossierTemporaire.h"
+#include "support/DossierTemporaire.h"
 
 namespace norvane {
 namespace {
@@ -55,7 +55,7 @@ TEST(ChargerOptions, TheFileComesBackIntoSessionSlotsZeroToFiveOnlyWhateverTheCa
   DossierTemporaire tmp;
   std::string attendu;
   ASSERT_FALSE(EnregistrerParametres(Numerotes(attendu), tmp / "Norvane/"));
-  Session s;
+  SessionCadre s;
   s.RepNorvane = tmp / "NORVANE/";
   s.NomDossier[6] = "GARDE.TVL";
   ChargerOptions(s);

@@ -6,8 +6,8 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "frame/DossierTemporaire.h"
-#include "frame/PortsScriptes.h"
+#include "support/DossierTemporaire.h"
+#include "support/PortsScriptes.h"
 
 namespace norvane {
 namespace {

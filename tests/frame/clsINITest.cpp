@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "frame/DossierTemporaire.h"
+#include "support/DossierTemporaire.h"
 
 namespace norvane {
 namespace {

@@ -8,7 +8,7 @@
 #include <sstream>
 
 #include "construction/FichiersEtude.h"
-#include "frame/DossierTemporaire.h"
+#include "support/DossierTemporaire.h"
 #include "study/ApercuDossier.h"
 #include "study/ChampsEssai.h"
 
@@ -63,6 +63,14 @@ TEST_F(Inspection, GeneralRecordOrganisationsAndSeriesInUtf8) {
                             "3 enregistrement(s), dont 1 vide(s) non affiché(s)"}) {
     EXPECT_THAT(r, HasSubstr(ligne));
   }
+}
+
+TEST_F(Inspection, ADescriptionWithCrLfLineEndsShowsNoQuestionMark) {
+  DossierGeneral d;
+  d.DescriptionProjet = "Agrandissement\r\nRobot de traite\r\n\r\nVerger\x01";
+  construction::CreerDossierEtude(racine_.Chemin(), "CRLF.TVL", d);
+  EXPECT_THAT(Rapport(racine_ / "CRLF.TVL"),
+              HasSubstr("  Description du projet :\n      Agrandissement\n      Robot de traite\n      Verger?\n"));
 }
 
 TEST_F(Inspection, AMissingFolderOrGeneralRecord) {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "construction/FichiersEtude.h"
-#include "frame/DossierTemporaire.h"
+#include "support/DossierTemporaire.h"
 #include "study/Catalogues.h"
 #include "study/ChampsEssai.h"
 

@@ -9,7 +9,7 @@
 #include "construction/FichiersIni.h"
 #include "construction/FichiersTableaux.h"
 #include "construction/ImagePng.h"
-#include "frame/DossierTemporaire.h"
+#include "support/DossierTemporaire.h"
 #include "frame/Texte.h"
 #include "study/Catalogues.h"
 #include "study/ChampsEssai.h"

@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "construction/FichiersEtude.h"
-#include "frame/DossierTemporaire.h"
+#include "support/DossierTemporaire.h"
 #include "frame/Texte.h"
 #include "study/ChampsEssai.h"
 #include "study/DossierGeneral.h"
@@ -104,6 +104,49 @@ TEST(ChargementDossier, FromSlotZero) {
     EXPECT_EQ(session.NomDossier[0], c.nomGarde ? c.nom : "");
     EXPECT_EQ(Trim(session.InfoDossier.NomExploitation), c.exploitation);
     EXPECT_EQ(Trim(session.InfoDossier.Fax), c.fax);
+  }
+}
+
+}  // namespace
+}  // namespace norvane
+
+namespace norvane {
+namespace {
+
+TEST(ExaminerDossier, WhatStandsInTheWayOfADossierNamedByTheUser) {
+  test::DossierTemporaire racine;
+  construction::CreerDossierEtude(racine.Chemin(), "BON.TVL", DossierGeneral{});
+  construction::CreerDossierEtude(racine.Chemin(), "VIDE.TVL", DossierGeneral{});
+  racine.Ecrire("VIDE.TVL/VIDE.TVL", "");
+  racine.Ecrire("COURT.TVL/COURT.TVL", std::string(150, ' '));
+  racine.Ecrire("SANS.TVL/RES.DON", "");
+  racine.Ecrire("FICHIER.TVL", "x");
+  using Sorte = ProblemeDossier::Sorte;
+  const struct {
+    std::string dossier;
+    std::optional<Sorte> sorte;
+    std::string texte;
+  } cas[] = {
+      {"BON.TVL", std::nullopt, ""},
+      {"bon.tvl/", std::nullopt, ""},
+      {"ABSENT.TVL", Sorte::Introuvable, "Le dossier " + racine / "ABSENT.TVL" + " n'existe pas."},
+      {"FICHIER.TVL", Sorte::PasUnDossier, racine / "FICHIER.TVL" + " n'est pas un dossier d'étude (.TVL) mais un fichier."},
+      {"SANS.TVL", Sorte::SansRecord,
+       "Le dossier ne contient pas d'enregistrement général : " + racine / "SANS.TVL/SANS.TVL" + " introuvable."},
+      {"VIDE.TVL", Sorte::RecordCourt,
+       "Attention : l'enregistrement général " + racine / "VIDE.TVL/VIDE.TVL" +
+           " est vide (0 octets au lieu de 2110) : les champs manquants restent vides."},
+      {"COURT.TVL", Sorte::RecordCourt,
+       "Attention : l'enregistrement général " + racine / "COURT.TVL/COURT.TVL" +
+           " est incomplet (150 octets au lieu de 2110) : les champs manquants restent vides."},
+  };
+  for (const auto& c : cas) {
+    const auto probleme = ExaminerDossier(racine / c.dossier);
+    ASSERT_EQ(probleme.has_value(), c.sorte.has_value()) << c.dossier;
+    if (!probleme) continue;
+    EXPECT_EQ(probleme->sorte, *c.sorte) << c.dossier;
+    EXPECT_EQ(probleme->Texte(), c.texte);
+    EXPECT_EQ(probleme->Bloquant(), *c.sorte != Sorte::RecordCourt);
   }
 }
 

@@ -5,8 +5,8 @@
 
 #include <random>
 
-#include "frame/DossierTemporaire.h"
-#include "frame/PortsScriptes.h"
+#include "support/DossierTemporaire.h"
+#include "support/PortsScriptes.h"
 #include "study/Catalogues.h"
 #include "study/DossierGeneral.h"
 #include "study/ParamLog.h"

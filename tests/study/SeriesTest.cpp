@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "construction/FichiersEtude.h"
-#include "frame/DossierTemporaire.h"
-#include "frame/PortsScriptes.h"
+#include "support/DossierTemporaire.h"
+#include "support/PortsScriptes.h"
 #include "study/Series.h"
 
 namespace norvane {

@@ -6,8 +6,9 @@
 #include <tuple>
 
 #include "construction/ImagePng.h"
-#include "frame/DossierTemporaire.h"
-#include "template/BancInterpreteur.h"
+#include "support/DossierTemporaire.h"
+#include "support/BancInterpreteur.h"
+#include "template/DatesExercice.h"
 
 namespace norvane::test {
 namespace {

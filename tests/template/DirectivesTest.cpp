@@ -6,8 +6,8 @@
 
 #include "construction/FichiersIni.h"
 #include "construction/ImagePng.h"
-#include "frame/DossierTemporaire.h"
-#include "template/BancInterpreteur.h"
+#include "support/DossierTemporaire.h"
+#include "support/BancInterpreteur.h"
 #include "template/Directives.h"
 #include "template/InterpreteurInterne.h"
 
@@ -49,6 +49,7 @@ TEST_F(Directives, ConditionSurUneSerieLueEnColonneSeptEtFormatee) {
     series[11] = construction::Serie("RES-12:" + decimales, "Produit|EUR",
                                      {9, 9, 9, 9, 9, 9, 9, colonne7, 9, 9, 9, 9, 9, 9});
     DossierEssai(temporaire.Chemin(), series);
+    generation.etat = EtatGeneration{};  // a generation reads a series file once: each case is a generation
     EXPECT_EQ(Valeur(code), attendu) << colonne7 << " " << decimales;
   }
   EXPECT_EQ(Valeur("si(ABSENT.DON+AB-3<>0)alors:adresse"), "\\v");

@@ -5,9 +5,9 @@
 
 #include <string>
 
-#include "frame/DossierTemporaire.h"
-#include "frame/PortsScriptes.h"
-#include "template/BancInterpreteur.h"
+#include "support/DossierTemporaire.h"
+#include "support/PortsScriptes.h"
+#include "support/BancInterpreteur.h"
 #include "template/Generateur.h"
 
 namespace norvane::test {
@@ -23,14 +23,15 @@ class GenerateurTest : public BancInterpreteur {
   // The result of a template given as its bytes.
   std::string Generer(const std::string& modele, bool demanderRemplacement = false) {
     dossier.Ecrire("modele.tvm", modele);
-    dernier = CreerDocument(generation, dossier / "modele.tvm", dossier / "resultat.rtf", false, true,
-                            demanderRemplacement);
+    dernier = CreerDocument(generation, dossier / "modele.tvm", dossier / "resultat.rtf",
+                            {.miseAJour = false, .sansOuvrir = true, .demanderRemplacement = demanderRemplacement});
     return dossier.Lire("resultat.rtf");
   }
 
   std::string MettreAJour(const std::string& document) {
     dossier.Ecrire("document.rtf", document);
-    dernier = CreerDocument(generation, dossier / "document.rtf", dossier / "document.rtf", true, true, true);
+    dernier = CreerDocument(generation, dossier / "document.rtf", dossier / "document.rtf",
+                            {.miseAJour = true, .sansOuvrir = true, .demanderRemplacement = true});
     return dossier.Lire("document.rtf");
   }
 
@@ -51,7 +52,8 @@ TEST_F(GenerateurTest, TemplatesGiveTheirExactBytes) {
       {a + "\r\n" + b + "\n" + "ccc\n", a + b + "\r\nccc\r\n"},
       {"x #tvl(nomExploit)# y #TVL(commune)#z", "x DUPONT Jean\r\n y Rennes\r\nz\r\n"},
       {Repeter('a', 998) + "#tv\r\nl(nomExploit)#z", Repeter('a', 998) + "DUPONT Jean\r\nz\r\n"},
-      {Repeter('a', 997) + "#tvl(\r\n" + Repeter(' ', 1200) + "\r\nnomExploit)#.", Repeter('a', 997) + "DUPONT Jean\r\n.\r\n"},
+      {Repeter('a', 997) + "#tvl(\r\n" + Repeter(' ', 1200) + "\r\nnomExploit)#.",
+       Repeter('a', 997) + "DUPONT Jean\r\n.\r\n"},
       {Repeter('a', 996) + "1 # 2\r\nbcdefgh", Repeter('a', 996) + "1 # 2bcdefgh\r\n"},
       {"premier" + x + "\r\nfin #", "premier" + x + "\r\n"},
       {"{\\info{\\title #tvl(nomExploit)#}{\\author A}} #tvl(commune)#",
@@ -102,10 +104,12 @@ TEST_F(GenerateurTest, ExistingResultIsKeptWhenTheUserSaysNo) {
 }
 
 TEST_F(GenerateurTest, UnreadableTemplateOrResultIsReported) {
-  dernier = CreerDocument(generation, dossier / "absent.tvm", dossier / "r.rtf", false, true, false);
+  dernier = CreerDocument(generation, dossier / "absent.tvm", dossier / "r.rtf",
+                          {.miseAJour = false, .sansOuvrir = true, .demanderRemplacement = false});
   EXPECT_FALSE(dernier.ecrit);
   dossier.Ecrire("m.tvm", "x");
-  dernier = CreerDocument(generation, dossier / "m.tvm", dossier / "sans/dossier/r.rtf", false, true, false);
+  dernier = CreerDocument(generation, dossier / "m.tvm", dossier / "sans/dossier/r.rtf",
+                          {.miseAJour = false, .sansOuvrir = true, .demanderRemplacement = false});
   EXPECT_FALSE(dernier.ecrit);
   EXPECT_EQ(messages.messages.size(), 2u);
 }
@@ -113,7 +117,8 @@ TEST_F(GenerateurTest, UnreadableTemplateOrResultIsReported) {
 TEST_F(GenerateurTest, DocResultLosesItsRtfTwin) {
   dossier.Ecrire("m.tvm", "texte");
   dossier.Ecrire("r.rtf", "jumeau");
-  CreerDocument(generation, dossier / "m.tvm", dossier / "r.doc", false, true, false);
+  CreerDocument(generation, dossier / "m.tvm", dossier / "r.doc",
+                {.miseAJour = false, .sansOuvrir = true, .demanderRemplacement = false});
   EXPECT_EQ(dossier.Lire("r.doc"), "texte\r\n");
   EXPECT_FALSE(dossier.Existe("r.rtf"));
   // No word processor is bound: the conversion to .doc says so.
@@ -145,9 +150,10 @@ TEST_F(GenerateurTest, UpdateKeepsTextAndGluesFields) {
 TEST_F(GenerateurTest, AnyTemplateEndsWithAResult) {
   uint32_t graine = 12345;
   auto hasard = [&graine] { return graine = graine * 1103515245u + 12345u, (graine >> 16) & 0x7FFF; };
-  const std::string morceaux[] = {"#tvl(", ")#", "#TVL(", "\\par", "{\\title", "\\author", "{\\fonttbl",
-                                  "{\\colortbl;", "si(0<>0)alors:", "\r\n", "#", ")", "INFO:", "formule:1a:",
-                                  "{\\v #debdata#}", "{\\v #findata=#tvl(", "nomExploit", "a-b"};
+  const std::string morceaux[] = {
+      "#tvl(",          ")#",   "#TVL(", "\\par", "{\\title", "\\author",    "{\\fonttbl",      "{\\colortbl;",
+      "si(0<>0)alors:", "\r\n", "#",     ")",     "INFO:",    "formule:1a:", "{\\v #debdata#}", "{\\v #findata=#tvl(",
+      "nomExploit",     "a-b"};
   for (int essai = 0; essai < 300; ++essai) {
     std::string modele;
     const int longueur = static_cast<int>(hasard() % 400);

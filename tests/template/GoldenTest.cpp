@@ -8,8 +8,8 @@
 #include <fstream>
 #include <sstream>
 
-#include "frame/DossierTemporaire.h"
-#include "template/BancInterpreteur.h"
+#include "support/DossierTemporaire.h"
+#include "support/BancInterpreteur.h"
 #include "template/Generateur.h"
 
 namespace norvane::test {
@@ -42,7 +42,8 @@ TEST_P(GoldenTest, GivesItsExpectedDocument) {
   const fs::path modele = dossierGolden / (GetParam() + ".tvm");
   const std::string attendu = Lire(dossierGolden / (GetParam() + ".rtf"));
   const fs::path resultat = fs::temp_directory_path() / ("nv-golden-" + GetParam() + ".rtf");
-  CreerDocument(generation, modele.string(), resultat.string(), false, true, false);
+  CreerDocument(generation, modele.string(), resultat.string(),
+                {.miseAJour = false, .sansOuvrir = true, .demanderRemplacement = false});
   const std::string obtenu = Lire(resultat);
   EXPECT_TRUE(obtenu == attendu) << "result differs from " << GetParam() << ".rtf, see " << resultat;
   if (obtenu == attendu) fs::remove(resultat);

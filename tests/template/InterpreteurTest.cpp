@@ -4,7 +4,7 @@
 #include <random>
 #include <tuple>
 
-#include "template/BancInterpreteur.h"
+#include "support/BancInterpreteur.h"
 #include "template/Directives.h"
 #include "template/InterpreteurInterne.h"
 

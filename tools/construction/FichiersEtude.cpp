@@ -4,12 +4,17 @@
 #include <filesystem>
 
 #include "construction/EnregistrementFixe.h"
+#include "study/DossierGeneral.h"
+#include "study/FichierSeries.h"
 #include "study/ParamLog.h"
 
+// The lengths come from the readers; the offsets below are written out on
+// their own, so that a reader and the builder that disagree on a layout make
+// the study tests fail.
 namespace norvane::construction {
 
 std::string OctetsDossierGeneral(const DossierGeneral& d) {
-  EnregistrementFixe e(2110);
+  EnregistrementFixe e(kLongueurDossierGeneral);
   e.Texte(0, d.CheminDossierTervol, 50)
       .Texte(50, d.NomDossierTervol, 50)
       .Texte(100, d.NomExploitation, 30)
@@ -55,7 +60,7 @@ std::string CreerDossierEtude(const std::string& racine, const std::string& nom,
 }
 
 std::string OctetsOrganisation(const Organisation& o) {
-  EnregistrementFixe e(360);
+  EnregistrementFixe e(kLongueurOrganisation);
   e.Texte(0, o.Nom, 80)
       .Texte(80, o.Rue, 80)
       .Texte(160, o.Ville, 60)
@@ -84,7 +89,7 @@ void EcrireParamLog(const std::string& chemin, const std::array<Organisation, 20
 }
 
 std::string OctetsSerie(const SerieDonnees& serie) {
-  EnregistrementFixe e(90);
+  EnregistrementFixe e(kLongueurSerie);
   e.Texte(0, serie.CodeSerie, 12).Texte(12, serie.Intitule, 22).Flottants(34, serie.Valeur.data(), 14);
   return e.Octets();
 }
@@ -102,7 +107,7 @@ SerieDonnees Serie(const std::string& code, const std::string& intitule, std::in
 }
 
 std::string OctetsEntreeCatalogue(const EntreeCatalogue& entree) {
-  EnregistrementFixe e(118);
+  EnregistrementFixe e(kLongueurEntreeCatalogue);
   e.Texte(0, entree.CodeCatalogue, 12)
       .Texte(12, entree.Intitule, 22)
       .Texte(34, entree.Groupe1, 40)

@@ -1,4 +1,4 @@
-#include "frame/PortsScriptes.h"
+#include "support/PortsScriptes.h"
 
 #include "frame/BoutonsBoite.h"
 

@@ -12,7 +12,7 @@
 
 #include "construction/FichiersEtude.h"
 #include "frame/Encodage.h"
-#include "frame/PortsScriptes.h"
+#include "support/PortsScriptes.h"
 #include "template/Generation.h"
 #include "template/Interpreteur.h"
 

@@ -1,0 +1,91 @@
+# Checks the direction of dependencies between the folders of src/:
+#   frame <- study <- template <- tables, graphs, drivers <- cerfa <- app
+# (management and authoring stand beside tables, graphs and drivers and may
+# use them). A sub-folder ui/, render/ or libreoffice/ is an adapter of its
+# subsystem: it may use its subsystem and whatever that subsystem may use, but
+# the subsystem never includes it. Qt and UNO headers are allowed only in
+# adapters and in app/.
+#
+#   cmake -DSOURCES=<src folder> -P VerifierCouches.cmake
+# Fails, naming each offending include, when a rule is broken.
+
+cmake_minimum_required(VERSION 3.25)
+
+if(NOT DEFINED SOURCES)
+  message(FATAL_ERROR "SOURCES: the src folder to check")
+endif()
+
+set(permis_frame frame)
+set(permis_study frame study)
+set(permis_template frame study template)
+set(permis_tables frame study template tables)
+set(permis_graphs frame study template graphs)
+set(permis_drivers frame study template drivers)
+set(permis_cerfa frame study template tables cerfa)
+set(permis_verification frame study template tables graphs verification)
+set(permis_management frame study template tables graphs drivers management)
+set(permis_authoring frame study template tables graphs drivers authoring)
+set(permis_app ALL)
+set(adaptateurs ui render libreoffice)
+
+# Qt headers (QImage, QtGui/..., qpainter.h) and UNO headers (com/sun/star, cppu, rtl, osl, sal, uno).
+set(motif_etranger "^(Q[A-Za-z]+|Qt[A-Za-z]*/.*|q[a-z]+\\.h|com/sun/star/.*|cppu[a-z]*/.*|rtl/.*|osl/.*|sal/.*|uno/.*)$")
+
+file(GLOB_RECURSE fichiers RELATIVE "${SOURCES}" "${SOURCES}/*.h" "${SOURCES}/*.cpp")
+set(fautes "")
+foreach(fichier IN LISTS fichiers)
+  string(REPLACE "/" ";" parties "${fichier}")
+  list(GET parties 0 dossier)
+  list(LENGTH parties profondeur)
+  set(adaptateur FALSE)
+  if(profondeur GREATER 2)
+    list(GET parties 1 sous)
+    if(sous IN_LIST adaptateurs)
+      set(adaptateur TRUE)
+      set(dossierComplet "${dossier}/${sous}")
+    endif()
+  endif()
+  if(NOT DEFINED permis_${dossier})
+    string(APPEND fautes "\n  ${fichier}: folder '${dossier}' has no place in the layers")
+    continue()
+  endif()
+  file(STRINGS "${SOURCES}/${fichier}" inclusions REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"]")
+  foreach(ligne IN LISTS inclusions)
+    string(REGEX REPLACE "^[ \t]*#[ \t]*include[ \t]*[<\"]([^>\"]+)[>\"].*$" "\\1" cible "${ligne}")
+    if(cible MATCHES "${motif_etranger}")
+      if(NOT adaptateur AND NOT dossier STREQUAL "app")
+        string(APPEND fautes "\n  ${fichier}: includes <${cible}>, a Qt or UNO header, outside ui/, render/, libreoffice/")
+      endif()
+      continue()
+    endif()
+    if(NOT cible MATCHES "/")
+      continue()
+    endif()
+    string(REPLACE "/" ";" cibleParties "${cible}")
+    list(GET cibleParties 0 cibleDossier)
+    if(NOT DEFINED permis_${cibleDossier})
+      continue()  # a header of a library, or of the build (generated/)
+    endif()
+    list(LENGTH cibleParties cibleProfondeur)
+    set(cibleAdaptateur FALSE)
+    if(cibleProfondeur GREATER 2)
+      list(GET cibleParties 1 cibleSous)
+      if(cibleSous IN_LIST adaptateurs)
+        set(cibleAdaptateur TRUE)
+      endif()
+    endif()
+    if(permis_${dossier} STREQUAL "ALL")
+      continue()
+    endif()
+    if(NOT cibleDossier IN_LIST permis_${dossier})
+      string(APPEND fautes "\n  ${fichier}: '${dossier}' may not include '${cible}' (layer '${cibleDossier}' lies above or beside it)")
+    elseif(cibleAdaptateur AND NOT (adaptateur AND "${cibleDossier}/${cibleSous}" STREQUAL "${dossierComplet}"))
+      string(APPEND fautes "\n  ${fichier}: includes the adapter header '${cible}'")
+    endif()
+  endforeach()
+endforeach()
+
+if(fautes)
+  message(FATAL_ERROR "Includes against the layers:${fautes}")
+endif()
+message(STATUS "Layers respected in ${SOURCES}")

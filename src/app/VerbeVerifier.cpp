@@ -1,0 +1,34 @@
+// VERIFIER <modèle.tvm> [<dossier .TVL>] [--format=json]: every code of a
+// template placed, explained and checked, without generating anything.
+#include <iostream>
+
+#include "app/Travail.h"
+#include "app/Verbes.h"
+#include "frame/OutilsFichiers.h"
+#include "verification/Rapport.h"
+#include "verification/VerificationModele.h"
+
+namespace norvane {
+
+// Exit status: 0 no fault, 1 faults, 2 the template cannot be read.
+int VerbeVerifier(Application& application) {
+  const std::string& modele = application.Param(2);
+  const std::string& format = application.options.format;
+  if (modele.empty() || (!format.empty() && format != "json")) {
+    std::cerr << "Usage : norvane VERIFIER <modèle.tvm> [<dossier .TVL>] [--format=json]\n";
+    return 2;
+  }
+  const auto contenu = LireFichier(modele);
+  if (!contenu) {
+    std::cerr << "Le modèle de document \"" << modele << "\" est introuvable ou illisible.\n";
+    return 2;
+  }
+  const bool avecDossier = !application.Param(3).empty();
+  if (!PlacerDossiers(application, application.Param(3))) return 2;
+  const EntitesCourantes aucuneEntite;
+  const std::vector<CodeVerifie> codes = VerifierModele(application.session, aucuneEntite, *contenu);
+  std::cout << (format == "json" ? RapportJson(codes, avecDossier) : RapportTexte(modele, codes, avecDossier));
+  return NombreErreurs(codes) == 0 ? 0 : 1;
+}
+
+}  // namespace norvane

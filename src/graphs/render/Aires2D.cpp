@@ -1,0 +1,36 @@
+#include <QPainter>
+
+#include "graphs/render/Pinceaux.h"
+#include "graphs/render/Series2D.h"
+
+namespace norvane {
+
+void DessinerAires2D(const Trace2D& t, const std::vector<std::size_t>& series) {
+  t.peintre.save();
+  const bool superposees = !t.scene.empile && series.size() > 1;
+  for (const std::size_t k : series) {
+    const SerieDessinee& serie = t.scene.series[k];
+    QPolygonF haut, bas;
+    for (int c = 0; c < t.repere.nbCategories; ++c) {
+      const auto ci = static_cast<std::size_t>(c);
+      const double x = t.repere.XCategorie(c);
+      haut << QPointF(x, t.repere.Y(t.pile.haut[k][ci], serie.axeSecondaire));
+      bas << QPointF(x, t.repere.Y(t.pile.bas[k][ci], serie.axeSecondaire));
+    }
+    if (haut.isEmpty()) continue;
+    QPolygonF forme = haut;
+    for (auto p = bas.crbegin(); p != bas.crend(); ++p) forme << *p;
+    t.peintre.setPen(Qt::NoPen);
+    t.peintre.setBrush(BrosseSerie(serie));
+    t.peintre.setOpacity(superposees ? 0.6 : 1.0);
+    t.peintre.drawPolygon(forme);
+    t.peintre.setOpacity(1.0);
+    QPen trait = TraitSerie(serie);
+    trait.setColor(Teinte(serie.couleur, 0.7));
+    t.peintre.setPen(trait);
+    t.peintre.drawPolyline(haut);
+  }
+  t.peintre.restore();
+}
+
+}  // namespace norvane

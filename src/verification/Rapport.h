@@ -1,0 +1,22 @@
+// The report of a template check: a French text for the terminal, or JSON
+// for scripts.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "verification/VerificationCode.h"
+
+namespace norvane {
+
+// One block a code, then a summary of the faults and their count.
+std::string RapportTexte(const std::string& modele, const std::vector<CodeVerifie>& codes, bool avecValeurs);
+
+// A JSON array, one object a code: ligne, colonne, page, paragraphe, code,
+// sens, statut ("valide" or "erreur"), message, and valeur with a dossier.
+std::string RapportJson(const std::vector<CodeVerifie>& codes, bool avecValeurs);
+
+// `texte` (UTF-8) as a JSON string, quotes included.
+std::string ChaineJson(const std::string& texte);
+
+}  // namespace norvane

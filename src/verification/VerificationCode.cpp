@@ -1,0 +1,102 @@
+#include "verification/VerificationCode.h"
+
+#include "frame/Encodage.h"
+#include "frame/Texte.h"
+#include "tables/CodeTableau.h"
+#include "tables/GenerationTableau.h"
+#include "template/Interpreteur.h"
+#include "template/Nettoyage.h"
+#include "template/Textes.h"
+
+namespace norvane {
+namespace {
+
+constexpr std::string_view kAlors = ")alors:";
+
+// A box as one line of the report.
+std::string LigneMessage(const std::string& texte, const std::string& conseil) {
+  std::string ligne = conseil.empty() ? texte : texte + " " + conseil;
+  return Trim(RemplacerTout(ligne, "\n", " "));
+}
+
+// The code behind a "si(...)alors:" prefix; the interpreter itself tells a
+// condition that is never closed.
+std::string SansCondition(const std::string& code) {
+  if (!CommencePar(code, "si(", true)) return code;
+  const std::size_t alors = ChercherSansCasse(code, kAlors);
+  return alors == std::string::npos ? std::string() : code.substr(alors + kAlors.size());
+}
+
+// Where the reading of a table code stopped: its header, or its line n (the
+// lines are separated by "#", which no label holds).
+std::string EndroitTableau(const std::string& texte, std::size_t position) {
+  const std::size_t ouverture = texte.find('(');
+  if (ouverture == std::string::npos || position <= ouverture) return "en-tête du tableau";
+  const auto n = std::count(texte.begin() + static_cast<std::ptrdiff_t>(ouverture),
+                            texte.begin() + static_cast<std::ptrdiff_t>(std::min(position, texte.size())), '#');
+  return "ligne " + std::to_string(n + 1) + " du tableau";
+}
+
+bool CodeDeTableau(const std::string& code) {
+  return CommencePar(code, "tab") || CommencePar(code, "culture") || CommencePar(code, "cultper") ||
+         CommencePar(code, "actlibr");
+}
+
+}  // namespace
+
+void MessagesEnregistres::AfficherMessage(const std::string& /*appelant*/, const std::string& /*titre*/,
+                                          const std::string& texte, const std::string& conseil,
+                                          const std::string& style) {
+  if (style == "Aide") {
+    sens = Trim(RemplacerTout(texte, "\n", " "));
+  } else {
+    fautes.push_back(LigneMessage(texte, conseil));
+  }
+}
+
+Reponse MessagesEnregistres::PoserQuestion(const std::string& /*titre*/, const std::string& /*texte*/,
+                                           Boutons /*boutons*/, Icone /*icone*/, int /*boutonParDefaut*/) {
+  return Reponse::Non;
+}
+
+void MessagesEnregistres::Vider() {
+  sens.clear();
+  fautes.clear();
+}
+
+CodeVerifie VerificateurCode::Verifier(std::string_view tranche) {
+  messages_.Vider();
+  CodeVerifie resultat;
+  std::string code(tranche.substr(kMarqueDebut.size(), tranche.size() - kMarqueDebut.size() - kMarqueFin.size()));
+  NettoyerCode(code);
+  resultat.code = Cp1252VersUtf8(std::string(kMarqueDebut) + code + std::string(kMarqueFin));
+  std::string texte(tranche);
+  InterpreterPortion(g_, texte, true);
+  if (texte != tranche) resultat.valeur = Cp1252VersUtf8(Trim(RemplacerTout(texte, "\\par ", " ")));
+  VerifierDecodeurs(code);
+  resultat.sens = messages_.sens;
+  for (const std::string& faute : messages_.fautes) {
+    resultat.message += (resultat.message.empty() ? "" : " | ") + faute;
+  }
+  resultat.valide = messages_.fautes.empty();
+  return resultat;
+}
+
+// Explain mode does not read tables and graphs: their codes go through the
+// generator's decoders here.
+void VerificateurCode::VerifierDecodeurs(std::string code) {
+  code = SansCondition(code);
+  if (CodeDeTableau(code)) {
+    const std::string texte = NettoyerCodeTableau(code);
+    ModeleTableau modele;
+    const LectureCodeTableau lu = LireCodeTableau(texte, modele);
+    if (!lu.complete) {
+      messages_.fautes.push_back("Le code du tableau ne peut être lu (" + EndroitTableau(texte, lu.position) +
+                                 ") : " + lu.raison + ".");
+    }
+  } else if (CommencePar(code, "gph(")) {
+    graphiques_.GenererGraphique(g_, code);
+  }
+}
+
+}  // namespace norvane

@@ -1,0 +1,1 @@
+#include "graphs/render/Dessin.h"

@@ -1,0 +1,1 @@
+#include "study/Session.h"

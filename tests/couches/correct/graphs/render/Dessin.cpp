@@ -1,0 +1,3 @@
+#include <QPainter>
+#include "graphs/render/Dessin.h"
+#include "template/Generation.h"

@@ -1,0 +1,2 @@
+#include "template/Generation.h"
+#include <vector>
