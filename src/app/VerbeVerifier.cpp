@@ -24,6 +24,11 @@ int VerbeVerifier(Application& application) {
     return 2;
   }
   const bool avecDossier = !application.Param(3).empty();
+  if (!avecDossier) {
+    // Syntax only: the dossier the settings remember is not read.
+    application.session.RepDossier[0].clear();
+    application.session.NomDossier[0].clear();
+  }
   if (!PlacerDossiers(application, application.Param(3))) return 2;
   const EntitesCourantes aucuneEntite;
   const std::vector<CodeVerifie> codes = VerifierModele(application.session, aucuneEntite, *contenu);

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "template/Generation.h"
 
@@ -18,6 +19,11 @@ std::string ValeurCodeFormule(Generation& generation, const std::string& code);
 std::string CalculerFormule(Generation& generation, const std::string& formule, int16_t annee);
 std::string RemplacerReferences(Generation& generation, const std::string& formule, int16_t annee);
 float ValeurLigne(Generation& generation, std::string& reference, int16_t annee);
+// A dossier is linked in slot 0: series values can be read.
+bool DossierChoisi(const Session& session);
+
+// Title of the box a series reference gives when no dossier is linked.
+inline constexpr std::string_view kTitreDossierAbsent = "Dossier Tervol non sélectionné !";
 std::string LibelleLigne(Generation& generation, std::string& reference);
 
 // The arithmetic: numbers with "." as decimal mark, + - * / ^, unary minus,

@@ -29,9 +29,6 @@ ReferenceSerie Decomposer(const Generation& generation, std::string_view referen
   return r;
 }
 
-bool DossierChoisi(const Session& session) {
-  return !EstBlanc(session.RepDossier[0]) && !EstBlanc(session.NomDossier[0]);
-}
 
 // The record, or zeros and blanks when there is no dossier or no such record.
 SerieDonnees Lire(const Generation& generation, const ReferenceSerie& r) {
@@ -73,13 +70,17 @@ int32_t AnneeDemandee(Generation& generation, const std::string& texte, int16_t 
 
 void SignalerDossierAbsent(Generation& generation) {
   generation.messages.AfficherMessage(
-      "Formules", "Dossier Tervol non sélectionné !",
+      "Formules", std::string(kTitreDossierAbsent),
       "Aucun dossier Tervol n'est lié à Norvane : sélectionnez un dossier dans le menu de création des documents "
       "afin de pouvoir récupérer les valeurs des fichiers .DON du dossier ! Merci.",
       "", "");
 }
 
 }  // namespace
+
+bool DossierChoisi(const Session& session) {
+  return !EstBlanc(session.RepDossier[0]) && !EstBlanc(session.NomDossier[0]);
+}
 
 float ValeurLigne(Generation& generation, std::string& reference, int16_t annee) {
   int32_t colonne = annee;

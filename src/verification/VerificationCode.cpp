@@ -4,6 +4,7 @@
 #include "frame/Texte.h"
 #include "tables/CodeTableau.h"
 #include "tables/GenerationTableau.h"
+#include "template/Formules.h"
 #include "template/Interpreteur.h"
 #include "template/Nettoyage.h"
 #include "template/Textes.h"
@@ -44,9 +45,10 @@ bool CodeDeTableau(const std::string& code) {
 
 }  // namespace
 
-void MessagesEnregistres::AfficherMessage(const std::string& /*appelant*/, const std::string& /*titre*/,
+void MessagesEnregistres::AfficherMessage(const std::string& /*appelant*/, const std::string& titre,
                                           const std::string& texte, const std::string& conseil,
                                           const std::string& style) {
+  if (syntaxeSeule && titre == kTitreDossierAbsent) return;
   if (style == "Aide") {
     sens = Trim(RemplacerTout(texte, "\n", " "));
   } else {

@@ -35,6 +35,9 @@ class MessagesEnregistres : public PortMessages {
 
   std::string sens;
   std::vector<std::string> fautes;
+  // Without a dossier only the syntax is checked: the box saying that no
+  // dossier is linked is expected, not a fault.
+  bool syntaxeSeule = false;
 };
 
 class VerificateurCode {

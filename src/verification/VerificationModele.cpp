@@ -5,6 +5,7 @@
 #include "frame/Encodage.h"
 #include "frame/Texte.h"
 #include "study/DossierGeneral.h"
+#include "template/Formules.h"
 #include "template/Morceaux.h"
 #include "template/Textes.h"
 
@@ -37,6 +38,7 @@ std::vector<CodeVerifie> VerifierModele(Session& session, const EntitesCourantes
   ProgressionMuette progression;
   Generation generation(session, messages, progression, entites);
   ChargerInfoDossier(generation.session);
+  messages.syntaxeSeule = !DossierChoisi(session);
   VerificateurCode verificateur(generation, messages);
 
   std::vector<CodeVerifie> codes;

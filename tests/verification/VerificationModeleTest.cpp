@@ -107,5 +107,18 @@ TEST(VerificationModele, ExampleTemplatesCheckCleanAndGenerateSilently) {
   EXPECT_GE(modeles, 5u);
 }
 
+// Without a dossier only the syntax counts: a formula over series is valid,
+// an unknown word is still a fault.
+TEST(VerificationModele, WithoutADossierOnlyTheSyntaxCounts) {
+  Session session;
+  const EntitesCourantes entites;
+  const auto codes = VerifierModele(session, entites,
+                                    "{\\rtf1 #tvl(formule:1a:LG(RES-17)/LG(RES-1)*100:1)# #tvl(motInconnu)#}");
+  ASSERT_EQ(codes.size(), 2u);
+  EXPECT_TRUE(codes[0].valide) << codes[0].message;
+  EXPECT_FALSE(codes[1].valide);
+  EXPECT_EQ(NombreErreurs(codes), 1u);
+}
+
 }  // namespace
 }  // namespace norvane
