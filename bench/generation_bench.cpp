@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "DossierExemple.h"
 #include "support/PortsScriptes.h"
 #include "template/Generateur.h"
 
@@ -35,14 +36,6 @@ std::string Modele(std::size_t taille, const std::vector<std::string>& codes) {
   return t + "}\r\n";
 }
 
-fs::path DossierExemple() {
-  std::error_code ec;
-  for (const auto& entree : fs::directory_iterator(fs::path(NORVANE_ARBRE) / "Dossier", ec)) {
-    if (entree.path().extension() == ".TVL") return entree.path();
-  }
-  return {};
-}
-
 void Generer(benchmark::State& state, const std::vector<std::string>& codes, bool avecDossier) {
   const std::size_t taille = static_cast<std::size_t>(state.range(0)) << 20;
   const fs::path dossier = fs::temp_directory_path() / "nv-bench";
@@ -52,13 +45,7 @@ void Generer(benchmark::State& state, const std::vector<std::string>& codes, boo
 
   Session session;
   if (avecDossier) {
-    const fs::path d = DossierExemple();
-    if (d.empty()) {
-      state.SkipWithError("pas de dossier d'exemple : construire l'arbre d'installation d'abord");
-      return;
-    }
-    session.RepDossier[0] = d.parent_path().string() + "/";
-    session.NomDossier[0] = d.filename().string();
+    if (!banc::PlacerDossierExemple(session, state)) return;
   } else {
     session.InfoDossier.NomExploitation = "GAEC DES TILLEULS";
   }

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <string>
 
+#include "DossierExemple.h"
 #include "graphs/CodeGraphique.h"
 #include "graphs/GraphiquesGeneration.h"
 #include "graphs/StockGraphiques.h"
@@ -20,14 +21,6 @@ namespace {
 
 using namespace norvane;
 namespace fs = std::filesystem;
-
-fs::path DossierExemple() {
-  std::error_code ec;
-  for (const auto& entree : fs::directory_iterator(fs::path(NORVANE_ARBRE) / "Dossier", ec)) {
-    if (entree.path().extension() == ".TVL") return entree.path();
-  }
-  return {};
-}
 
 void Dessiner(benchmark::State& state, const std::string& repModelGraph) {
   ModeleGraphique modele = test::ModeleEssai(static_cast<int16_t>(state.range(0)));
@@ -55,7 +48,7 @@ void GraphiqueParTypeAvecBmp(benchmark::State& state) {
 
 // 30 gph codes of the example store, 5 a page of text.
 void ModeleTrenteGraphiques(benchmark::State& state) {
-  const fs::path dossier = DossierExemple();
+  const fs::path dossier = banc::DossierExemple();
   StockGraphiques stock;
   MessagesScriptes messages;
   ChargerGraphiques(stock, (fs::path(NORVANE_ARBRE) / "ModelGraph").string() + "/", messages);

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "DossierExemple.h"
 #include "frame/Ports.h"
 #include "study/CacheEtude.h"
 #include "study/Series.h"
@@ -28,14 +29,8 @@ std::vector<std::string> CodesTableau() {
 }
 
 void TableauDeSeries(benchmark::State& etat, bool avecCache) {
-  const fs::path d = fs::path(NORVANE_ARBRE) / "Dossier" / "GAEC_DES_TILLEULS.TVL";
-  if (!fs::is_directory(d)) {
-    etat.SkipWithError("example dossier missing: build the installation tree first");
-    return;
-  }
   Session session;
-  session.RepDossier[0] = d.parent_path().string() + "/";
-  session.NomDossier[0] = d.filename().string();
+  if (!banc::PlacerDossierExemple(session, etat)) return;
   MessagesMuets messages;
   EntitesCourantes entites;
   const std::vector<std::string> codes = CodesTableau();

@@ -9,6 +9,7 @@
 #include <fstream>
 #include <string>
 
+#include "DossierExemple.h"
 #include "frame/Ports.h"
 #include "study/DossierGeneral.h"
 #include "tables/GenerationTableau.h"
@@ -24,11 +25,6 @@ namespace fs = std::filesystem;
 constexpr int16_t kAnnees = 10;
 const std::string kFormat = "5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
 
-fs::path DossierExemple() {
-  const fs::path d = fs::path(NORVANE_ARBRE) / "Dossier" / "GAEC_DES_TILLEULS.TVL";
-  return fs::is_directory(d) ? d : fs::path();
-}
-
 // A table code of `lignes` lines over the years.
 std::string CodeTableau(int lignes) {
   std::string code = "taba2p1cr0;larg2400;larg9000([280;120][;" + kFormat + "][entete:1:;" + kFormat + "]";
@@ -42,11 +38,8 @@ std::string CodeTableau(int lignes) {
 }
 
 // The session on the example dossier, with ten study years.
-bool PreparerSession(Session& session) {
-  const fs::path d = DossierExemple();
-  if (d.empty()) return false;
-  session.RepDossier[0] = d.parent_path().string() + "/";
-  session.NomDossier[0] = d.filename().string();
+bool PreparerSession(Session& session, benchmark::State& state) {
+  if (!banc::PlacerDossierExemple(session, state)) return false;
   ChargerInfoDossier(session);
   session.InfoDossier.NbAnEtude = kAnnees;
   return true;
@@ -54,10 +47,7 @@ bool PreparerSession(Session& session) {
 
 void UnTableau(benchmark::State& state) {
   Session session;
-  if (!PreparerSession(session)) {
-    state.SkipWithError("pas de dossier d'exemple : construire l'arbre d'installation d'abord");
-    return;
-  }
+  if (!PreparerSession(session, state)) return;
   const std::string code = CodeTableau(static_cast<int>(state.range(0)));
   MessagesMuets messages;
   ProgressionMuette progression;
@@ -82,10 +72,7 @@ void UnTableau(benchmark::State& state) {
 // copy of the record that the tables read, through AnneesCerfa).
 void ModeleDeTableaux(benchmark::State& state) {
   Session session;
-  if (!PreparerSession(session)) {
-    state.SkipWithError("pas de dossier d'exemple : construire l'arbre d'installation d'abord");
-    return;
-  }
+  if (!PreparerSession(session, state)) return;
   const fs::path dossier = fs::temp_directory_path() / "nv-bench-tableaux";
   fs::create_directories(dossier);
   const std::string modele = (dossier / "modele.tvm").string(), resultat = (dossier / "resultat.rtf").string();

@@ -371,4 +371,23 @@ void ReparerFormats(ModeleTableau& modele, const DefautsCellule& defauts) {
   }
 }
 
+bool EstCodeTableau(std::string_view code) {
+  for (const std::string_view prefixe : {"tab", "culture", "cultper", "actlibr"}) {
+    if (code.substr(0, prefixe.size()) == prefixe) return true;
+  }
+  return false;
+}
+
+// Lines are separated by "#", which no label holds: the count of "#" between
+// the "(" that opens the lines and the stop gives the line.
+std::string MessageLectureTableau(std::string_view texte, const LectureCodeTableau& lecture) {
+  const std::size_t ouverture = texte.find('(');
+  std::string endroit = "en-tête du tableau";
+  if (ouverture != std::string_view::npos && lecture.position > ouverture) {
+    const std::string_view lignes = texte.substr(ouverture, std::min(lecture.position, texte.size()) - ouverture);
+    endroit = "ligne " + std::to_string(std::count(lignes.begin(), lignes.end(), '#') + 1) + " du tableau";
+  }
+  return "Le code du tableau ne peut être lu (" + endroit + ") : " + lecture.raison + ".";
+}
+
 }  // namespace norvane

@@ -33,6 +33,14 @@ struct LectureCodeTableau {
   std::string raison;  // French, UTF-8; empty when complete
 };
 
+// The code is a table's: "tab" or an entity prefix ("culture", "cultper",
+// "actlibr") opens it.
+bool EstCodeTableau(std::string_view code);
+
+// The user's words for a decoding of `texte` that stopped: where (the
+// header, or line n of the table) and why. UTF-8.
+std::string MessageLectureTableau(std::string_view texte, const LectureCodeTableau& lecture);
+
 // Reads the optional kind prefix "culture", "cultper" or "actlibr" and its
 // digits into TypeTableau (1, 2, 3), StyleTitre and NumChapitre; without a
 // prefix, TypeTableau 0, StyleTitre 1, NumChapitre -1. `code` is left

@@ -11,6 +11,7 @@
 #include "tables/CodeTableau.h"
 #include "tables/DefinitionLigne.h"
 #include "tables/MultiDossier.h"
+#include "template/Textes.h"
 
 namespace norvane {
 namespace {
@@ -147,11 +148,25 @@ std::string GenererTableau(Generation& generation, TableauxDocument& tableaux, c
   return resultat;
 }
 
+namespace {
+
+// A code the decoder cannot read to its end still gives what was read, and
+// the user is told once, where the reading stopped.
+void SignalerCodeIlisible(Generation& generation, const std::string& code) {
+  const std::string texte = NettoyerCodeTableau(code);
+  ModeleTableau modele;
+  const LectureCodeTableau lu = LireCodeTableau(texte, modele);
+  if (lu.complete) return;
+  generation.messages.AfficherMessage(std::string(kAppelant), std::string(kTitreErreur),
+                                      MessageLectureTableau(texte, lu), std::string(kConseilModifier), "");
+}
+
+}  // namespace
+
 std::optional<std::string> TableauxDocument::GenererTableau(Generation& generation, const std::string& code) {
-  if (CommencePar(code, "culture") || CommencePar(code, "cultper") || CommencePar(code, "actlibr")) {
-    return producteurs.TableauxParEntite(generation, *this, code);
-  }
-  if (!CommencePar(code, "tab")) return std::nullopt;
+  if (!EstCodeTableau(code)) return std::nullopt;
+  SignalerCodeIlisible(generation, code);
+  if (!CommencePar(code, "tab")) return producteurs.TableauxParEntite(generation, *this, code);
   return norvane::GenererTableau(generation, *this, code);
 }
 

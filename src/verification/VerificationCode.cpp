@@ -28,21 +28,6 @@ std::string SansCondition(const std::string& code) {
   return alors == std::string::npos ? std::string() : code.substr(alors + kAlors.size());
 }
 
-// Where the reading of a table code stopped: its header, or its line n (the
-// lines are separated by "#", which no label holds).
-std::string EndroitTableau(const std::string& texte, std::size_t position) {
-  const std::size_t ouverture = texte.find('(');
-  if (ouverture == std::string::npos || position <= ouverture) return "en-tête du tableau";
-  const auto n = std::count(texte.begin() + static_cast<std::ptrdiff_t>(ouverture),
-                            texte.begin() + static_cast<std::ptrdiff_t>(std::min(position, texte.size())), '#');
-  return "ligne " + std::to_string(n + 1) + " du tableau";
-}
-
-bool CodeDeTableau(const std::string& code) {
-  return CommencePar(code, "tab") || CommencePar(code, "culture") || CommencePar(code, "cultper") ||
-         CommencePar(code, "actlibr");
-}
-
 }  // namespace
 
 void MessagesEnregistres::AfficherMessage(const std::string& /*appelant*/, const std::string& titre,
@@ -88,14 +73,11 @@ CodeVerifie VerificateurCode::Verifier(std::string_view tranche) {
 // generator's decoders here.
 void VerificateurCode::VerifierDecodeurs(std::string code) {
   code = SansCondition(code);
-  if (CodeDeTableau(code)) {
+  if (EstCodeTableau(code)) {
     const std::string texte = NettoyerCodeTableau(code);
     ModeleTableau modele;
     const LectureCodeTableau lu = LireCodeTableau(texte, modele);
-    if (!lu.complete) {
-      messages_.fautes.push_back("Le code du tableau ne peut être lu (" + EndroitTableau(texte, lu.position) +
-                                 ") : " + lu.raison + ".");
-    }
+    if (!lu.complete) messages_.fautes.push_back(MessageLectureTableau(texte, lu));
   } else if (CommencePar(code, "gph(")) {
     graphiques_.GenererGraphique(g_, code);
   }

@@ -2,10 +2,14 @@
 // the broken example gives its kept report, an unreadable template exits 2.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <nlohmann/json.hpp>
+#include <vector>
 
 #include "app/Programme.h"
 #include "frame/OutilsFichiers.h"
+#include "support/DossierTemporaire.h"
 
 namespace norvane::test {
 namespace {
@@ -44,6 +48,39 @@ TEST(Verification, AnUnreadableTemplateOrABadFormatExitsTwo) {
   EXPECT_EQ(Lancer("VERIFIER /pas/de/modele.tvm").statut, 2);
   EXPECT_EQ(Lancer("VERIFIER").statut, 2);
   EXPECT_EQ(Lancer("VERIFIER " + Guillemets(kCasse) + " --format=pdf").statut, 2);
+}
+
+// The generator and the checker agree on the same dossiers: each fault the
+// checker reports is a box at generation, and a template it finds clean
+// generates without a word beyond "Document créé".
+TEST(Verification, TheGeneratorSpeaksExactlyWhereTheCheckerFindsFaults) {
+  // Multi-dossier tables compare the dossiers given after the first one, as
+  // the example script gives them.
+  const std::string gaec = Guillemets(std::string(NORVANE_ARBRE) + "/Dossier/GAEC_DES_TILLEULS.TVL");
+  const std::string martin = Guillemets(std::string(NORVANE_ARBRE) + "/Dossier/MARTIN_PAUL.TVL");
+  const std::string dossier = " " + gaec + " --comparer=" + gaec + " --comparer=" + martin;
+  std::vector<std::string> modeles = {kCasse};
+  for (const auto& entree : std::filesystem::directory_iterator(std::string(NORVANE_ARBRE) + "/Norvane/ModlDocs")) {
+    if (entree.path().extension() == ".tvm") modeles.push_back(entree.path().string());
+  }
+  DossierTemporaire d;
+  for (const std::string& modele : modeles) {
+    const Execution v = Lancer("VERIFIER " + Guillemets(modele) + dossier + " --format=json");
+    const nlohmann::json codes = nlohmann::json::parse(v.sortie, nullptr, false);
+    ASSERT_TRUE(codes.is_array()) << modele << "\n" << v.sortie;
+    const Execution g = Lancer("GENERER " + Guillemets(modele) + " " + Guillemets(d / "r.rtf") + dossier + " --remplacer");
+    std::size_t erreurs = 0;
+    for (const nlohmann::json& code : codes) {
+      if (code.value("statut", "") != "erreur") continue;
+      ++erreurs;
+      const std::string debut = code.value("message", "").substr(0, 40);
+      EXPECT_NE(g.sortie.find(debut), std::string::npos) << modele << ": " << debut << "\n" << g.sortie;
+    }
+    if (erreurs == 0) {
+      EXPECT_EQ(g.sortie.rfind("Document créé", 0), 0u) << modele << "\n" << g.sortie;
+      EXPECT_EQ(std::count(g.sortie.begin(), g.sortie.end(), '\n'), 1) << modele << "\n" << g.sortie;
+    }
+  }
 }
 
 }  // namespace

@@ -243,5 +243,20 @@ TEST(NettoyageCodeTableau, SpacesGoAndAccentEscapesBecomeLetters) {
   EXPECT_EQ(NettoyerCodeTableau(R"(d\' e9but)"), Utf8VersCp1252("début"));
 }
 
+// A code that breaks on its second line still gives its first, and the user
+// is told once where the reading stopped.
+TEST_F(BancTableaux, AnUnreadableLineIsToldOnceAndTheLinesBeforeItCome) {
+  const std::string format = "5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
+  const std::string code = "taba2p1cr0;larg2000;larg7200([280;120][Produit;" + format +
+                           "][serie:RES.DON+RES-1:0:0;" + format + "]#[300;x0][Charges;" + format +
+                           "][serie:RES.DON+RES-3:0:0;" + format + "])";
+  const std::optional<std::string> rtf = tableaux.GenererTableau(generation, code);
+  ASSERT_TRUE(rtf.has_value());
+  EXPECT_NE(rtf->find("Produit}\\cell"), std::string::npos);
+  ASSERT_EQ(messages.messages.size(), 1u);
+  EXPECT_EQ(messages.messages[0].texte,
+            "Le code du tableau ne peut être lu (ligne 2 du tableau) : hauteur ou marge de ligne non numérique.");
+}
+
 }  // namespace
 }  // namespace norvane::test
