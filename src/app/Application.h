@@ -12,16 +12,17 @@
 namespace norvane {
 
 struct OptionsLigne {
-  bool remplacer = false;                 // --remplacer: no replacement question
-  bool ouvrir = false;                    // --ouvrir: open the result when done
-  std::optional<Reponse> reponse;         // --reponse=oui|non: the answer to every question
-  std::vector<std::string> comparer;      // --comparer=<dossier>, slots 1 to 9
-  int annees = 0;                         // --annees=N: years of the Cerfa frame
-  std::string format;                     // --format=doc|odt|pdf|rtf: the format CONVERTIR makes
-  std::string dossierSortie;              // --dossier-sortie=<dossier>: where CONVERTIR writes
-  bool aide = false;                      // --help
-  bool version = false;                   // --version
-  std::vector<std::string> inconnues;     // options not understood
+  bool remplacer = false;              // --remplacer: no replacement question
+  bool ouvrir = false;                 // --ouvrir: open the result when done
+  std::optional<Reponse> reponse;      // --reponse=oui|non: the answer to every question
+  std::vector<std::string> comparer;   // --comparer=<dossier>, slots 1 to 9
+  std::optional<std::string> annees;   // --annees=N: the text of the Cerfa frame's years box
+  int page = 0;                        // --page=0..15: page of the PDE report, 0 the whole report
+  std::string format;                  // --format=doc|odt|pdf|rtf: the format CONVERTIR makes
+  std::string dossierSortie;           // --dossier-sortie=<dossier>: where CONVERTIR writes
+  bool aide = false;                   // --help
+  bool version = false;                // --version
+  std::vector<std::string> inconnues;  // options not understood
 };
 
 struct Application {

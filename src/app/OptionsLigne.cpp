@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "cerfa/ChoixPDE.h"
 #include "frame/Texte.h"
 
 namespace norvane {
@@ -38,9 +39,15 @@ bool Lire(OptionsLigne& o, const std::string& a) {
     o.dossierSortie = *v;
     return !v->empty();
   }
+  // Taken as the years box of the Cerfa frame takes its text: 0 or a text
+  // that is no number gives five years.
   if (auto v = Valeur(a, "annees")) {
-    o.annees = EntierDe(*v);
-    return o.annees > 0 && o.annees <= 13;
+    o.annees = *v;
+    return true;
+  }
+  if (auto v = Valeur(a, "page")) {
+    o.page = EntierDe(*v);
+    return !v->empty() && v->find_first_not_of("0123456789") == std::string::npos && o.page < kPagesPDE;
   }
   return false;
 }

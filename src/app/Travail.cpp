@@ -3,10 +3,12 @@
 #include <iostream>
 
 #include "app/EditeurLigneCommande.h"
+#include "cerfa/ChoixPDE.h"
 #include "frame/LigneCommande.h"
 #include "graphs/render/Fabriques.h"
 #include "study/DossierGeneral.h"
 #include "study/Series.h"
+#include "template/Generateur.h"
 
 namespace norvane {
 
@@ -66,9 +68,23 @@ Travail::Travail(Application& application, PortMessages* messages)
   generation_.tableaux = &tableaux_;
   generation_.graphiques = &graphiques_;
   generation_.images = images_.get();
-  if (application.options.annees > 0) generation_.AnneesCerfa = static_cast<int16_t>(application.options.annees);
+  if (application.options.annees) generation_.AnneesCerfa = NombreAnneesPDE(*application.options.annees);
 }
 
 Travail::~Travail() = default;
+
+int GenererDocument(Application& application, const std::string& modele, const std::string& resultat,
+                    std::optional<int16_t> anneesCerfa) {
+  LierEditeurPour(application, resultat, application.options.ouvrir);
+  Travail travail(application);
+  if (anneesCerfa) travail.generation().AnneesCerfa = anneesCerfa;
+  const ResultatDocument r = CreerDocument(travail.generation(), modele, resultat,
+                                           {.miseAJour = false,
+                                            .sansOuvrir = !application.options.ouvrir,
+                                            .demanderRemplacement = !application.options.remplacer});
+  if (!r.ecrit || !GarderRtfSousSonNom(resultat)) return 1;
+  std::cout << "Document créé : " << resultat << " (" << r.nbCodes << " codes)\n";
+  return 0;
+}
 
 }  // namespace norvane

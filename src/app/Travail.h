@@ -2,13 +2,15 @@
 // and the placing of dossier arguments into their slots.
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "app/Application.h"
+#include "cerfa/ProducteursCerfa.h"
 #include "graphs/GraphiquesGeneration.h"
 #include "tables/MultiDossier.h"
-#include "cerfa/ProducteursCerfa.h"
 #include "tables/TableauxDocument.h"
 #include "template/Generation.h"
 
@@ -45,5 +47,13 @@ class Travail {
   GraphiquesGeneration graphiques_;
   std::unique_ptr<PortImages> images_;
 };
+
+// One document created as GENERER creates it: the word processor bound when
+// the result needs it, the generation, then the conversion to the result's
+// format; the options say whether to open it and whether to replace it
+// without asking. `anneesCerfa` overrides the years of --annees. Returns the
+// verb's exit status (0 when written, 1 otherwise).
+int GenererDocument(Application& application, const std::string& modele, const std::string& resultat,
+                    std::optional<int16_t> anneesCerfa = std::nullopt);
 
 }  // namespace norvane

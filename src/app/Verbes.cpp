@@ -30,6 +30,10 @@ const std::vector<Verbe>& TableVerbes() {
        VerbeGraphique},
       {"CONVERTIR", "CONVERTIR <document>... --format=doc|odt|pdf|rtf [--dossier-sortie=<dossier>]",
        "convertit des documents par LibreOffice, lancé une seule fois", VerbeConvertir},
+      {"PDE", "PDE <dossier .TVL> <résultat> [--page=0..15] [--annees=N] [--reponse=oui|non]",
+       "crée le rapport PDE Cerfa du dossier à partir des modèles livrés (Norvane/PDE/) : en entier, "
+       "ou la seule page --page ; en .rtf, ou en .pdf, .doc, .odt par LibreOffice",
+       VerbePDE},
       {"VERIFIER", "VERIFIER <modèle.tvm> [<dossier .TVL>] [--format=json]",
        "vérifie chaque code d'un modèle (place, sens, erreurs) sans rien générer", VerbeVerifier},
   };
@@ -58,7 +62,8 @@ std::string TexteAide() {
       "  --ouvrir             ouvre le résultat dans le traitement de texte lié\n"
       "  --reponse=oui|non    réponse donnée à toute question\n"
       "  --comparer=<dossier> dossier à comparer (répétable, emplacements 1 à 9)\n"
-      "  --annees=N           nombre d'années d'étude du cadre Cerfa\n"
+      "  --annees=N           nombre d'années du cadre Cerfa (0 ou un texte non numérique : 5)\n"
+      "  --page=N             page du rapport PDE : 1 à 15, 0 pour le rapport entier (par défaut)\n"
       "  --format=F           format produit par CONVERTIR : doc, odt, pdf ou rtf\n"
       "  --dossier-sortie=D   dossier où CONVERTIR écrit (par défaut, celui de chaque document)\n"
       "  --help               affiche cette aide\n"

@@ -34,5 +34,6 @@ int VerbeConvertir(Application& application);
 int VerbeModeles(Application& application);
 int VerbeGraphique(Application& application);
 int VerbeVerifier(Application& application);
+int VerbePDE(Application& application);
 
 }  // namespace norvane

@@ -43,16 +43,7 @@ int VerbeGenerer(Application& application) {
     return Usage("GENERER <modèle> <résultat> [<dossier .TVL>]");
   }
   if (!PlacerDossiers(application, application.Param(4))) return 1;
-  const std::string& resultat = application.Param(3);
-  LierEditeurPour(application, resultat, application.options.ouvrir);
-  Travail travail(application);
-  const ResultatDocument r = CreerDocument(travail.generation(), application.Param(2), resultat,
-                                           {.miseAJour = false,
-                                            .sansOuvrir = !application.options.ouvrir,
-                                            .demanderRemplacement = !application.options.remplacer});
-  if (!r.ecrit || !GarderRtfSousSonNom(resultat)) return 1;
-  std::cout << "Document créé : " << resultat << " (" << r.nbCodes << " codes)\n";
-  return 0;
+  return GenererDocument(application, application.Param(2), application.Param(3));
 }
 
 int VerbeMettreAJour(Application& application) {

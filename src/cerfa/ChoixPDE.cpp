@@ -39,9 +39,8 @@ const std::array<PagePDE, kPagesPDE>& ListePDE() {
 
 std::string ModelePDE(int index, bool societe, PortMessages& messages) {
   if (index >= 1 && index < kPagesPDE) return ListePDE()[static_cast<std::size_t>(index)].modele;
-  const bool pagesSociete =
-      societe || messages.PoserQuestion("PDE Cerfa", kQuestionSociete, Boutons::OuiNon, Icone::Question, 0) ==
-                     Reponse::Oui;
+  const bool pagesSociete = societe || messages.PoserQuestion("PDE Cerfa", kQuestionSociete, Boutons::OuiNon,
+                                                              Icone::Question, 1) == Reponse::Oui;
   return pagesSociete ? "PDE/PDECerfasoc.tvm" : "PDE/PDECerfa.tvm";
 }
 

@@ -29,8 +29,10 @@ const std::array<PagePDE, kPagesPDE>& ListePDE();
 
 // The stock template of entry `index`, relative to the Norvane folder
 // ("PDE/PDE8.tvm"). For the whole report of an individual farm the user is
-// asked whether the two empty company sheets are wanted; a company always
-// gets them. An index out of the list gives the whole report.
+// asked whether the two empty company sheets are wanted (No is the default
+// button: an individual farm's report has thirteen pages unless asked
+// otherwise); a company always gets them. An index out of the list gives
+// the whole report.
 std::string ModelePDE(int index, bool societe, PortMessages& messages);
 
 // The number of years typed in the dialog, rounded; 0 or a text that is no

@@ -16,13 +16,13 @@ TEST(OptionsLigne, AreTakenOutOfTheArguments) {
   EXPECT_TRUE(o.remplacer && o.ouvrir);
   EXPECT_EQ(o.reponse, Reponse::Non);
   EXPECT_EQ(o.comparer, (std::vector<std::string>{"/d/A.TVL", "/d/B.TVL"}));
-  EXPECT_EQ(o.annees, 7);
+  EXPECT_EQ(o.annees, "7");
   EXPECT_TRUE(o.inconnues.empty());
 }
 
 TEST(OptionsLigne, BadOnesAreReported) {
-  std::vector<std::string> a = {"--reponse=peut-etre", "--annees=0", "--vite"};
-  EXPECT_EQ(ExtraireOptions(a).inconnues.size(), 3u);
+  std::vector<std::string> a = {"--reponse=peut-etre", "--page=16", "--page=", "--page=-1", "--vite"};
+  EXPECT_EQ(ExtraireOptions(a).inconnues.size(), 5u);
 }
 
 TEST(Programme, HelpListsTheVerbsAndVersionAnswers) {
