@@ -33,7 +33,9 @@ lancer() {
   mkdir -p "$corpus/$cible" "$artefacts"
   local options=(-max_total_time="$secondes" -timeout=10 -rss_limit_mb=512 -max_len=16384
     -print_final_stats=1 -artifact_prefix="$artefacts/")
-  [ -f "$racine/fuzz/dictionnaires/$cible.dict" ] && options+=(-dict="$racine/fuzz/dictionnaires/$cible.dict")
+  local dictionnaire
+  dictionnaire="$(sed -n "s/^norvane_fuzz($cible DICT \([A-Za-z0-9_]*\).*/\1/p" "$racine/fuzz/CMakeLists.txt")"
+  [ -n "$dictionnaire" ] && options+=(-dict="$racine/fuzz/dictionnaires/$dictionnaire.dict")
   local dossiers=("$corpus/$cible")
   [ -d "$racine/fuzz/corpus/$cible" ] && dossiers+=("$racine/fuzz/corpus/$cible")
   # A small quarantine keeps the sanitizer's own memory well inside the RSS limit.
