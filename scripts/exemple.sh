@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Sets up, builds, and generates the example documents from the bundled
-# example installation. The documents land in build/exemple-documents/.
+# example installation, with the PDE Cerfa report of each example dossier.
+# The documents land in build/exemple-documents/.
 set -euo pipefail
 racine="$(cd "$(dirname "$0")/.." && pwd)"
 "$racine/scripts/dependances.sh"
@@ -19,6 +20,14 @@ for modele in "$arbre"/Norvane/ModlDocs/*.tvm; do
   for dossier in "$arbre"/Dossier/*.TVL; do
     cible="$sortie/${nom}-$(basename "$dossier" .TVL).rtf"
     "$norvane" GENERER "$modele" "$cible" "$dossier" "${comparer[@]}" --remplacer --reponse=oui
+  done
+done
+# The whole PDE Cerfa report of each dossier, from the stock templates, as
+# RTF and as PDF through LibreOffice; the individual farm's report without
+# the two empty company sheets.
+for dossier in "$arbre"/Dossier/*.TVL; do
+  for extension in rtf pdf; do
+    "$norvane" PDE "$dossier" "$sortie/PDECerfa-$(basename "$dossier" .TVL).$extension" --remplacer --reponse=non
   done
 done
 echo "Documents créés dans $sortie :"

@@ -1,7 +1,8 @@
 // The stock templates of the PDE Cerfa report: their assembly from the page
 // bodies (byte for byte, pages in their numeric order, a missing page left
-// out), and, in the installation tree, the agreement of the table codes of
-// the templates with the models of Norvane/PDE/tableaux.txt both ways.
+// out, the whole report opening on a paragraph), and, in the installation
+// tree, the agreement of the table codes of the templates with the models of
+// Norvane/PDE/tableaux.txt both ways.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -30,6 +31,10 @@ bool Assembler(const std::string& source, const std::string& destination) {
   return std::system(commande.c_str()) == 0;
 }
 
+// What the whole report puts ahead of its first page, so that LibreOffice
+// keeps the section breaks of pages that open on a table.
+constexpr char kOuverture[] = "\\pard\\plain\\fs2\\par\r\n";
+
 TEST(AssemblagePDE, PagesAreJoinedInTheirOrderByteForByte) {
   DossierTemporaire d;
   const std::string entete = "{\\rtf1\\ansi\\ansicpg1252\r\n{\\fonttbl{\\f0 Arial;}}\r\n";
@@ -51,8 +56,8 @@ TEST(AssemblagePDE, PagesAreJoinedInTheirOrderByteForByte) {
   for (const auto& [n, corps] : pages) EXPECT_EQ(d.Lire("PDE/PDE" + std::to_string(n) + ".tvm"), entete + corps + "}");
   EXPECT_FALSE(d.Existe("PDE/PDE3.tvm"));
   const std::string treize = pages.at(1) + "\\sect " + pages.at(2) + "\\sect " + pages.at(10);
-  EXPECT_EQ(d.Lire("PDE/PDECerfa.tvm"), entete + treize + "}");
-  EXPECT_EQ(d.Lire("PDE/PDECerfasoc.tvm"), entete + treize + "\\sect " + pages.at(14) + "}");
+  EXPECT_EQ(d.Lire("PDE/PDECerfa.tvm"), entete + kOuverture + treize + "}");
+  EXPECT_EQ(d.Lire("PDE/PDECerfasoc.tvm"), entete + kOuverture + treize + "\\sect " + pages.at(14) + "}");
   EXPECT_EQ(d.Lire("PDE/tableaux.txt"), tableaux2 + tableaux10);
 }
 
@@ -61,8 +66,8 @@ TEST(AssemblagePDE, WithoutPagesTheReportIsAnEmptyDocument) {
   d.Ecrire("pde/entete.rtf", "{\\rtf1\r\n");
   fs::create_directories(d / "pde/pages");
   ASSERT_TRUE(Assembler(d / "pde", d / "PDE"));
-  EXPECT_EQ(d.Lire("PDE/PDECerfa.tvm"), "{\\rtf1\r\n}");
-  EXPECT_EQ(d.Lire("PDE/PDECerfasoc.tvm"), "{\\rtf1\r\n}");
+  EXPECT_EQ(d.Lire("PDE/PDECerfa.tvm"), std::string("{\\rtf1\r\n") + kOuverture + "}");
+  EXPECT_EQ(d.Lire("PDE/PDECerfasoc.tvm"), std::string("{\\rtf1\r\n") + kOuverture + "}");
   EXPECT_TRUE(d.Existe("PDE/tableaux.txt"));
   EXPECT_EQ(d.Lire("PDE/tableaux.txt"), "");
 }
