@@ -14,13 +14,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* donnees, std::size_t taille
   using namespace norvane;
   const std::string_view corps(reinterpret_cast<const char*>(donnees), taille);
   static ModeleTableau modele;
-  const LectureCodeTableau lu = LireCodeTableau(corps, modele);
-  if (lu.position > corps.size()) __builtin_trap();
+  const Resultat<void> lu = LireCodeTableau(corps, modele);
+  if (!lu && lu.Erreur().octet > corps.size()) __builtin_trap();
 
   static ModeleTableau pasAPas;
   std::string_view reste = corps;
   LireTypeTableau(reste, pasAPas);
-  if (LireEnteteCode(reste, pasAPas).complete) LireLignesCode(reste, pasAPas);
+  if (LireEnteteCode(reste, pasAPas)) LireLignesCode(reste, pasAPas);
 
   MessagesMuets messages;
   const std::string silencieux = EcrireCodeTableau(modele);

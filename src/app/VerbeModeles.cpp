@@ -36,11 +36,9 @@ void EcrireNoeuds(const std::vector<NoeudArbre>& noeuds, const std::string& cleP
 }
 
 // A store read only in part still shows what was read, and says where it stopped.
-void SignalerLecture(const std::string& chemin, const LectureStock& lecture) {
-  const std::optional<ErreurLecture> erreur = ErreurDeLecture(lecture, Cp1252VersUtf8(chemin));
-  if (!erreur) return;
-  std::cerr << erreur->Position() << ", ligne " << lecture.ligne << " : " << erreur->texte
-            << " ; la suite du fichier est ignorée.\n";
+void SignalerLecture(const Resultat<void>& lecture) {
+  if (lecture) return;
+  std::cerr << lecture.Erreur().Position() << " : " << lecture.Erreur().texte << " ; la suite du fichier est ignorée.\n";
 }
 
 std::string CheminStockTableaux(const Session& session) {
@@ -49,9 +47,8 @@ std::string CheminStockTableaux(const Session& session) {
 
 void ArbreTableauxVersSortie(Application& application, std::ostream& sortie) {
   const std::string chemin = CheminStockTableaux(application.session);
-  LectureStock lecture;
-  StockTableaux stock = ChargerTableaux(chemin, false, &lecture);
-  SignalerLecture(chemin, lecture);
+  StockTableaux stock;
+  SignalerLecture(ChargerTableaux(chemin, false, stock));
   ArbreTableaux arbre;
   ConstruireArbre(arbre, stock.modeles);
   EcrireNoeuds(arbre.Noeuds(), "", 0, sortie);
@@ -60,9 +57,8 @@ void ArbreTableauxVersSortie(Application& application, std::ostream& sortie) {
 // "#tvl(...)#" of the first model of that name (trimmed, compared as typed).
 std::optional<std::string> CodeTableau(Application& application, const std::string& nomUtf8) {
   const std::string chemin = CheminStockTableaux(application.session);
-  LectureStock lecture;
-  const StockTableaux stock = ChargerTableaux(chemin, true, &lecture);
-  SignalerLecture(chemin, lecture);
+  StockTableaux stock;
+  SignalerLecture(ChargerTableaux(chemin, true, stock));
   for (std::size_t i = 0; i < stock.modeles.size(); ++i) {
     const ModeleTableau& modele = stock.modeles[i];
     if (Cp1252VersUtf8(Trim(modele.Nom)) != Trim(nomUtf8)) continue;

@@ -9,6 +9,7 @@ std::string ErreurLecture::Position() const {
   if (enregistrement > 0) ajouter("enregistrement " + std::to_string(enregistrement));
   if (!champ.empty()) ajouter("champ " + champ);
   ajouter("octet " + std::to_string(octet));
+  if (ligne > 0) ajouter("ligne " + std::to_string(ligne));
   return position;
 }
 

@@ -1,6 +1,6 @@
 // The one way a reader of outside data reports a failure: a value, or an
 // error that says what went wrong (a French text for the user) and where
-// (file, record, field, byte offset). Readers that keep what they could read
+// (file, record, field, byte offset, and line for a text file). Readers that keep what they could read
 // return the error beside the data they filled.
 #pragma once
 
@@ -18,9 +18,10 @@ struct ErreurLecture {
   uint64_t enregistrement = 0;  // from 1; 0 when the file has no records
   std::string champ;            // "NomAssocie(2)", "Intitule"...; empty when unknown
   uint64_t octet = 0;           // offset in the file where reading failed
+  uint64_t ligne = 0;           // from 1 in a text file; 0 in a binary one
 
   // "fichier X, enregistrement 3, champ Intitule, octet 214" with the parts
-  // that are known.
+  // that are known; a text file's line comes last: "octet 214, ligne 5".
   std::string Position() const;
 };
 

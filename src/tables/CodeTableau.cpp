@@ -16,6 +16,14 @@ constexpr std::array<std::string_view, 3> kPrefixesType = {"culture", "cultper",
 
 bool EstChiffre(char c) { return c >= '0' && c <= '9'; }
 
+// A stop of the reading at `octet`, for the reason given (French).
+ErreurLecture Stop(std::size_t octet, std::string raison) {
+  ErreurLecture erreur;
+  erreur.texte = std::move(raison);
+  erreur.octet = octet;
+  return erreur;
+}
+
 // A view over the code being read that knows where it started, so that a
 // stop can be told as an offset into the text the caller gave.
 class Curseur {
@@ -50,13 +58,21 @@ class Curseur {
     reste_.remove_prefix(n);
     return static_cast<int16_t>(valeur);
   }
-  LectureCodeTableau Arret(std::string raison) const { return {false, Position(), std::move(raison)}; }
-  LectureCodeTableau Fin() const { return {true, Position(), {}}; }
+  ErreurLecture Arret(std::string raison) const { return Stop(Position(), std::move(raison)); }
 
  private:
   std::string_view debut_;
   std::string_view reste_;
 };
+
+// The same result with its stop moved `decalage` bytes further: a part's
+// offsets told in the text of the whole.
+Resultat<void> Decaler(Resultat<void> lu, std::size_t decalage) {
+  if (lu) return lu;
+  ErreurLecture erreur = lu.Erreur();
+  erreur.octet += decalage;
+  return erreur;
+}
 
 // Offset of `partie` (a view inside `tout`) from the start of `tout`.
 std::size_t Decalage(std::string_view tout, std::string_view partie) {
@@ -114,32 +130,32 @@ void LireNumSerie(LigneTableau& ligne) {
 }
 
 // One line "[H;M][cell]...[definition]". The line has been counted already.
-LectureCodeTableau LireLigne(std::string_view tout, std::string_view piece, int16_t nbColonnes, LigneTableau& ligne) {
+Resultat<void> LireLigne(std::string_view tout, std::string_view piece, int16_t nbColonnes, LigneTableau& ligne) {
   const std::size_t debut = Decalage(tout, piece);
   const std::string_view hauteurMarge = ExtraireCrochets(piece);
   if (hauteurMarge == kErreurCrochets) {
-    return {false, debut, "une ligne ne commence pas par sa hauteur et sa marge entre crochets"};
+    return Stop(debut, "une ligne ne commence pas par sa hauteur et sa marge entre crochets");
   }
   const std::size_t pointVirgule = hauteurMarge.find(';');
   const std::optional<int16_t> hauteur = EntierStrict(hauteurMarge.substr(0, pointVirgule));
   const std::optional<int16_t> marge = pointVirgule == std::string_view::npos
                                            ? std::nullopt
                                            : EntierStrict(hauteurMarge.substr(pointVirgule + 1));
-  if (!hauteur || !marge) return {false, debut, "hauteur ou marge de ligne non numérique"};
+  if (!hauteur || !marge) return Stop(debut, "hauteur ou marge de ligne non numérique");
   ligne.Hauteur = *hauteur;
   ligne.Marge = *marge;
   for (int k = 0; k < nbColonnes; ++k) {
     const std::string_view texte = ExtraireCrochets(piece);
-    if (texte == kErreurCrochets) return {false, Decalage(tout, piece), "cellule de libellé manquante"};
+    if (texte == kErreurCrochets) return Stop(Decalage(tout, piece), "cellule de libellé manquante");
     CelluleTableau& cellule = ligne.Cellules[static_cast<std::size_t>(k)];
     LireCellule(texte, cellule);
     std::replace(cellule.Texte.begin(), cellule.Texte.end(), '_', ' ');
   }
   const std::string_view definition = ExtraireCrochets(piece);
-  if (definition == kErreurCrochets) return {false, Decalage(tout, piece), "définition de ligne manquante"};
+  if (definition == kErreurCrochets) return Stop(Decalage(tout, piece), "définition de ligne manquante");
   LireCellule(definition, ligne.Definition);
   LireNumSerie(ligne);
-  return {true, Decalage(tout, piece), {}};
+  return {};
 }
 
 std::string FormatOuDefaut(const std::string& format, const std::string& defaut) {
@@ -231,7 +247,7 @@ std::string Ecrire(const ModeleTableau& modele, int indice, PortMessages* messag
 
 }  // namespace
 
-LectureCodeTableau LireTypeTableau(std::string_view& code, ModeleTableau& modele) {
+Resultat<void> LireTypeTableau(std::string_view& code, ModeleTableau& modele) {
   modele.TypeTableau = 0;
   modele.StyleTitre = 1;
   modele.NumChapitre = -1;
@@ -251,12 +267,12 @@ LectureCodeTableau LireTypeTableau(std::string_view& code, ModeleTableau& modele
     break;
   }
   code = curseur.Reste();
-  return curseur.Fin();
+  return {};
 }
 
-LectureCodeTableau LireEnteteCode(std::string_view& code, ModeleTableau& modele) {
+Resultat<void> LireEnteteCode(std::string_view& code, ModeleTableau& modele) {
   Curseur curseur(code);
-  const auto fin = [&](LectureCodeTableau resultat) {
+  const auto fin = [&](Resultat<void> resultat) {
     code = curseur.Reste();
     return resultat;
   };
@@ -301,10 +317,10 @@ LectureCodeTableau LireEnteteCode(std::string_view& code, ModeleTableau& modele)
     }
   }
   if (!curseur.Prendre("(")) return fin(curseur.Arret("la parenthèse qui ouvre les lignes du tableau manque"));
-  return fin(curseur.Fin());
+  return fin({});
 }
 
-LectureCodeTableau LireLignesCode(std::string_view& code, ModeleTableau& modele) {
+Resultat<void> LireLignesCode(std::string_view& code, ModeleTableau& modele) {
   const std::string_view tout = code;
   std::string_view lignes = code;
   if (lignes.ends_with(')')) lignes.remove_suffix(1);
@@ -315,36 +331,31 @@ LectureCodeTableau LireLignesCode(std::string_view& code, ModeleTableau& modele)
   while (true) {
     if (modele.NbLignes == kLignesMax) {
       code = tout.substr(Decalage(tout, lignes) + depart);
-      return {false, Decalage(tout, lignes) + depart, "un tableau a au plus 511 lignes"};
+      return Stop(Decalage(tout, lignes) + depart, "un tableau a au plus 511 lignes");
     }
     const std::size_t diese = lignes.find('#', depart);
     const std::string_view piece = lignes.substr(depart, diese == std::string_view::npos ? diese : diese - depart);
     LigneTableau& ligne = modele.Lignes[static_cast<std::size_t>(modele.NbLignes)];
     ++modele.NbLignes;
-    LectureCodeTableau resultat = LireLigne(tout, piece, nbColonnes, ligne);
-    if (!resultat.complete || diese == std::string_view::npos) {
-      if (resultat.complete) resultat.position = tout.size();
-      code = tout.substr(resultat.position);
+    Resultat<void> resultat = LireLigne(tout, piece, nbColonnes, ligne);
+    if (!resultat || diese == std::string_view::npos) {
+      code = tout.substr(resultat ? tout.size() : resultat.Erreur().octet);
       return resultat;
     }
     depart = diese + 1;
   }
 }
 
-LectureCodeTableau LireCodeTableau(std::string_view corps, ModeleTableau& modele, bool avecLignes) {
+Resultat<void> LireCodeTableau(std::string_view corps, ModeleTableau& modele, bool avecLignes) {
   const std::string_view tout = corps;
-  const auto decaler = [&](LectureCodeTableau resultat, std::string_view partie) {
-    resultat.position += Decalage(tout, partie);
-    return resultat;
-  };
   std::string_view partie = corps;
-  LectureCodeTableau resultat = LireTypeTableau(corps, modele);
-  if (!resultat.complete) return decaler(resultat, partie);
+  Resultat<void> resultat = LireTypeTableau(corps, modele);
+  if (!resultat) return Decaler(resultat, Decalage(tout, partie));
   partie = corps;
   resultat = LireEnteteCode(corps, modele);
-  if (!resultat.complete || !avecLignes) return decaler(resultat, partie);
+  if (!resultat || !avecLignes) return Decaler(resultat, Decalage(tout, partie));
   partie = corps;
-  return decaler(LireLignesCode(corps, modele), partie);
+  return Decaler(LireLignesCode(corps, modele), Decalage(tout, partie));
 }
 
 std::string EcrireCodeTableau(const ModeleTableau& modele, const DefautsCellule& defauts) {
@@ -380,14 +391,15 @@ bool EstCodeTableau(std::string_view code) {
 
 // Lines are separated by "#", which no label holds: the count of "#" between
 // the "(" that opens the lines and the stop gives the line.
-std::string MessageLectureTableau(std::string_view texte, const LectureCodeTableau& lecture) {
+std::string MessageLectureTableau(std::string_view texte, const ErreurLecture& erreur) {
   const std::size_t ouverture = texte.find('(');
   std::string endroit = "en-tête du tableau";
-  if (ouverture != std::string_view::npos && lecture.position > ouverture) {
-    const std::string_view lignes = texte.substr(ouverture, std::min(lecture.position, texte.size()) - ouverture);
+  if (ouverture != std::string_view::npos && erreur.octet > ouverture) {
+    const std::size_t fin = static_cast<std::size_t>(std::min<uint64_t>(erreur.octet, texte.size()));
+    const std::string_view lignes = texte.substr(ouverture, fin - ouverture);
     endroit = "ligne " + std::to_string(std::count(lignes.begin(), lignes.end(), '#') + 1) + " du tableau";
   }
-  return "Le code du tableau ne peut être lu (" + endroit + ") : " + lecture.raison + ".";
+  return "Le code du tableau ne peut être lu (" + endroit + ") : " + erreur.texte + ".";
 }
 
 }  // namespace norvane

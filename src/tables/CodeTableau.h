@@ -13,56 +13,49 @@
 // as a blank (definitions keep theirs). A label holds none of ; # [ ].
 //
 // The decoders never throw: bad or cut text ends the reading with what was
-// read so far, and the result says where it stopped and why.
+// read so far, and the error says why (`texte`) and where it stopped (`octet`,
+// the 0-based offset in the text given to the call).
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
 #include "frame/Ports.h"
+#include "frame/Resultat.h"
 #include "tables/ModeleTableau.h"
 
 namespace norvane {
-
-// How a decoding ended. `position` is the 0-based offset, in the text given
-// to the call, where reading stopped (its length when it read everything).
-struct LectureCodeTableau {
-  bool complete = true;
-  std::size_t position = 0;
-  std::string raison;  // French, UTF-8; empty when complete
-};
 
 // The code is a table's: "tab" or an entity prefix ("culture", "cultper",
 // "actlibr") opens it.
 bool EstCodeTableau(std::string_view code);
 
-// The user's words for a decoding of `texte` that stopped: where (the
-// header, or line n of the table) and why. UTF-8.
-std::string MessageLectureTableau(std::string_view texte, const LectureCodeTableau& lecture);
+// The user's words for a decoding of `texte` that stopped with `erreur`:
+// where (the header, or line n of the table) and why. UTF-8.
+std::string MessageLectureTableau(std::string_view texte, const ErreurLecture& erreur);
 
 // Reads the optional kind prefix "culture", "cultper" or "actlibr" and its
 // digits into TypeTableau (1, 2, 3), StyleTitre and NumChapitre; without a
 // prefix, TypeTableau 0, StyleTitre 1, NumChapitre -1. `code` is left
 // starting at "tab" (or where the prefix reading stopped).
-LectureCodeTableau LireTypeTableau(std::string_view& code, ModeleTableau& modele);
+Resultat<void> LireTypeTableau(std::string_view& code, ModeleTableau& modele);
 
 // Reads "tab" and the header (kind letter and dossier count, label columns,
 // c, r, years mode, widths) up to and including the "(" that opens the lines.
 // Every header field is set, the defaults of old codes where the text lacks
 // it (a2, one column, widths 1000 and 7200 without ";larg"). `code` is left on
 // the first line.
-LectureCodeTableau LireEnteteCode(std::string_view& code, ModeleTableau& modele);
+Resultat<void> LireEnteteCode(std::string_view& code, ModeleTableau& modele);
 
 // Reads the lines, sets NbLignes to the number read (a line that does not
 // open with its [Hauteur;Marge] bracket ends the reading, already counted).
 // Label texts get their "_" back as blanks. `code` is left after the last
 // line read.
-LectureCodeTableau LireLignesCode(std::string_view& code, ModeleTableau& modele);
+Resultat<void> LireLignesCode(std::string_view& code, ModeleTableau& modele);
 
 // The three readers in a row on one body; with `avecLignes` false the lines
 // are not read (NbLignes stays as it was).
-LectureCodeTableau LireCodeTableau(std::string_view corps, ModeleTableau& modele, bool avecLignes = true);
+Resultat<void> LireCodeTableau(std::string_view corps, ModeleTableau& modele, bool avecLignes = true);
 
 // The body of the model's code. Empty Police and Cadre texts are written as
 // PoliceParDefaut(defauts) and kCadreReparation.

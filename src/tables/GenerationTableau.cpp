@@ -155,10 +155,10 @@ namespace {
 void SignalerCodeIlisible(Generation& generation, const std::string& code) {
   const std::string texte = NettoyerCodeTableau(code);
   ModeleTableau modele;
-  const LectureCodeTableau lu = LireCodeTableau(texte, modele);
-  if (lu.complete) return;
+  const Resultat<void> lu = LireCodeTableau(texte, modele);
+  if (lu) return;
   generation.messages.AfficherMessage(std::string(kAppelant), std::string(kTitreErreur),
-                                      MessageLectureTableau(texte, lu), std::string(kConseilModifier), "");
+                                      MessageLectureTableau(texte, lu.Erreur()), std::string(kConseilModifier), "");
 }
 
 }  // namespace

@@ -51,15 +51,20 @@ void LireEnteteStock(std::string_view ligne, ModeleTableau& modele) {
   modele.SousDossierTableau = sousDossier == kErreurCrochets ? std::string() : std::string(sousDossier);
 }
 
-LectureStock Arret(const LecteurLignes& lignes, std::size_t position, int modele, std::string raison) {
-  return {false, lignes.Numero(), position, lignes.Debut() + position, modele, std::move(raison)};
+// A stop at `position` in the last line given, while reading model `modele`.
+ErreurLecture Arret(const LecteurLignes& lignes, std::size_t position, std::size_t modele, std::string raison) {
+  ErreurLecture erreur;
+  erreur.texte = std::move(raison);
+  erreur.enregistrement = modele;
+  erreur.octet = lignes.Debut() + position;
+  erreur.ligne = static_cast<uint64_t>(lignes.Numero());
+  return erreur;
 }
 
 }  // namespace
 
-StockTableaux LireStockTableaux(std::string_view octets, bool avecLignes, LectureStock* lecture) {
-  StockTableaux stock;
-  LectureStock resultat;
+Resultat<void> LireStockTableaux(std::string_view octets, bool avecLignes, StockTableaux& stock) {
+  stock.modeles.clear();
   LecteurLignes lignes(octets);
   while (const std::optional<std::string_view> entete = lignes.Suivante()) {
     if (!entete->starts_with('[')) continue;
@@ -68,36 +73,26 @@ StockTableaux LireStockTableaux(std::string_view octets, bool avecLignes, Lectur
     const std::optional<std::string_view> code = lignes.Suivante();
     if (!code || !code->starts_with(kDebutCode) || !code->ends_with(kFinCode) ||
         code->size() < kDebutCode.size() + kFinCode.size()) {
-      resultat = Arret(lignes, 0, static_cast<int>(stock.modeles.size()),
-                       "la ligne qui suit le nom d'un tableau n'est pas un code #tvl(...)#");
-      break;
+      return Arret(lignes, 0, stock.modeles.size(), "la ligne qui suit le nom d'un tableau n'est pas un code #tvl(...)#");
     }
     const std::string_view corps = code->substr(kDebutCode.size(), code->size() - kDebutCode.size() - kFinCode.size());
-    const LectureCodeTableau lu = LireCodeTableau(corps, modele, avecLignes);
-    if (!lu.complete) {
-      resultat = Arret(lignes, kDebutCode.size() + lu.position, static_cast<int>(stock.modeles.size()), lu.raison);
-      break;
+    const Resultat<void> lu = LireCodeTableau(corps, modele, avecLignes);
+    if (!lu) {
+      return Arret(lignes, kDebutCode.size() + static_cast<std::size_t>(lu.Erreur().octet), stock.modeles.size(),
+                   lu.Erreur().texte);
     }
   }
-  if (lecture != nullptr) *lecture = resultat;
-  return stock;
+  return {};
 }
 
-std::optional<ErreurLecture> ErreurDeLecture(const LectureStock& lecture, const std::string& fichier) {
-  if (lecture.complete) return std::nullopt;
-  ErreurLecture erreur;
-  erreur.texte = lecture.raison;
-  erreur.fichier = fichier;
-  erreur.enregistrement = static_cast<uint64_t>(lecture.modele);
-  erreur.octet = lecture.octet;
-  return erreur;
-}
-
-StockTableaux ChargerTableaux(const std::string& chemin, bool avecLignes, LectureStock* lecture) {
+Resultat<void> ChargerTableaux(const std::string& chemin, bool avecLignes, StockTableaux& stock) {
   const std::optional<std::string> octets = LireFichier(chemin);
-  StockTableaux stock = LireStockTableaux(octets.value_or(std::string()), avecLignes, lecture);
   stock.chemin = chemin;
-  return stock;
+  const Resultat<void> lu = LireStockTableaux(octets.value_or(std::string()), avecLignes, stock);
+  if (lu) return lu;
+  ErreurLecture erreur = lu.Erreur();
+  erreur.fichier = Cp1252VersUtf8(chemin);
+  return erreur;
 }
 
 std::string TexteModeleStock(const ModeleTableau& modele, int indice, PortMessages* messages,
@@ -130,7 +125,8 @@ bool AjouterTableauAuFichier(const std::string& chemin, const ModeleTableau& mod
 
 bool SupprimerTableauDuFichier(int indice, const std::string& chemin, PortMessages& messages,
                                const DefautsCellule& defauts) {
-  StockTableaux stock = ChargerTableaux(chemin, true);
+  StockTableaux stock;
+  ChargerTableaux(chemin, true, stock);
   if (indice < 1 || indice > static_cast<int>(stock.modeles.size())) return false;
   const auto position = stock.modeles.begin() + (indice - 1);
   const std::string nom = Cp1252VersUtf8(position->Nom);

@@ -11,7 +11,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,28 +32,16 @@ struct StockTableaux {
   int courant = 0;
 };
 
-// How a reading of the store ended: `ligne` is the 1-based line of the file
-// where it stopped, `position` the offset in that line, `octet` the offset in
-// the file, `modele` the 1-based number of the model being read.
-struct LectureStock {
-  bool complete = true;
-  int ligne = 0;
-  std::size_t position = 0;
-  std::size_t octet = 0;
-  int modele = 0;
-  std::string raison;  // French, UTF-8
-};
-
-// The stop as the readers of outside data report it (the model number as the
-// record); std::nullopt when the reading was complete.
-std::optional<ErreurLecture> ErreurDeLecture(const LectureStock& lecture, const std::string& fichier);
-
-// Decodes the bytes of a store. With `avecLignes` false only each model's
-// header is read (the transfer tool's list); the lines keep their defaults.
-StockTableaux LireStockTableaux(std::string_view octets, bool avecLignes, LectureStock* lecture = nullptr);
-// Reads the file (found without regard to case). A missing or empty file
-// gives an empty list without any message.
-StockTableaux ChargerTableaux(const std::string& chemin, bool avecLignes, LectureStock* lecture = nullptr);
+// Decodes the bytes of a store into `stock.modeles`, which it replaces. With
+// `avecLignes` false only each model's header is read (the transfer tool's
+// list); the lines keep their defaults. A reading that stops keeps the models
+// read so far, and its error names the model being read (as the record), the
+// byte offset and the line (from 1) where it stopped, and why (French, UTF-8).
+Resultat<void> LireStockTableaux(std::string_view octets, bool avecLignes, StockTableaux& stock);
+// Reads the file (found without regard to case) into `stock`, and sets its
+// path; an error also names the file (UTF-8). A missing or empty file gives an
+// empty list and no error.
+Resultat<void> ChargerTableaux(const std::string& chemin, bool avecLignes, StockTableaux& stock);
 
 // The three lines of one model. `indice` is its 1-based number, named by the
 // warning of an incomplete definition; `messages` null writes silently.

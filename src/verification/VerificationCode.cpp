@@ -76,8 +76,8 @@ void VerificateurCode::VerifierDecodeurs(std::string code) {
   if (EstCodeTableau(code)) {
     const std::string texte = NettoyerCodeTableau(code);
     ModeleTableau modele;
-    const LectureCodeTableau lu = LireCodeTableau(texte, modele);
-    if (!lu.complete) messages_.fautes.push_back(MessageLectureTableau(texte, lu));
+    const Resultat<void> lu = LireCodeTableau(texte, modele);
+    if (!lu) messages_.fautes.push_back(MessageLectureTableau(texte, lu.Erreur()));
   } else if (CommencePar(code, "gph(")) {
     graphiques_.GenererGraphique(g_, code);
   }

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "support/PortsScriptes.h"
+#include "support/Resultats.h"
 #include "tables/Crochets.h"
 
 namespace norvane {
@@ -13,9 +14,9 @@ namespace {
 constexpr char kPolice[] = "5006;10;1;0;0;0;0;0;r";
 constexpr char kCadre[] = "1;1;1;1;8";
 
-ModeleTableau Lire(std::string_view corps, LectureCodeTableau* lecture = nullptr) {
+ModeleTableau Lire(std::string_view corps, Resultat<void>* lecture = nullptr) {
   ModeleTableau modele;
-  const LectureCodeTableau lu = LireCodeTableau(corps, modele);
+  const Resultat<void> lu = LireCodeTableau(corps, modele);
   if (lecture != nullptr) *lecture = lu;
   return modele;
 }
@@ -37,12 +38,12 @@ TEST(Crochets, FieldsAndTheirErrors) {
 }
 
 TEST(LireCode, ExampleOfTheStore) {
-  LectureCodeTableau lu;
+  Resultat<void> lu;
   const ModeleTableau m = Lire(
       "taba2p1cr0;larg2000;larg7200([280;120][Produit_brut;5006;10;1;0;0;0;0;0;r;1;1;1;1;8]"
       "[entete:1;5006;10;1;0;0;0;0;0;r;1;1;1;1;8])",
       &lu);
-  EXPECT_TRUE(lu.complete) << lu.raison;
+  EXPECT_TRUE(lu) << test::Raison(lu);
   EXPECT_EQ(m.TypeTableau, 0);
   EXPECT_EQ(m.MultiDossier, 0);
   EXPECT_EQ(m.NbDossiers, 2);
@@ -77,9 +78,9 @@ TEST(LireCode, HeaderForms) {
       {"actlibr27taba2p1;larg10;larg20([1;1][a][b])", 3, 2, 7, 0, 2, 1, 0, 0, 0, 10, 20},
   };
   for (const Cas& c : cas) {
-    LectureCodeTableau lu;
+    Resultat<void> lu;
     const ModeleTableau m = Lire(c.corps, &lu);
-    EXPECT_TRUE(lu.complete) << c.corps << ": " << lu.raison;
+    EXPECT_TRUE(lu) << c.corps << ": " << test::Raison(lu);
     EXPECT_EQ(m.TypeTableau, c.type) << c.corps;
     EXPECT_EQ(m.StyleTitre, c.style) << c.corps;
     EXPECT_EQ(m.NumChapitre, c.chapitre) << c.corps;
@@ -111,11 +112,11 @@ TEST(LireCode, StopsWhereTheTextIsWrongAndKeepsWhatWasRead) {
       {"taba2p1;larg1;larg2([1;1][a])", 28, 1},           // definition missing
   };
   for (const Cas& c : cas) {
-    LectureCodeTableau lu;
+    Resultat<void> lu;
     const ModeleTableau m = Lire(c.corps, &lu);
-    EXPECT_FALSE(lu.complete) << c.corps;
-    EXPECT_FALSE(lu.raison.empty()) << c.corps;
-    EXPECT_EQ(lu.position, c.position) << c.corps;
+    ASSERT_FALSE(lu) << c.corps;
+    EXPECT_FALSE(lu.Erreur().texte.empty()) << c.corps;
+    EXPECT_EQ(lu.Erreur().octet, c.position) << c.corps;
     EXPECT_EQ(m.NbLignes, c.nbLignes) << c.corps;
   }
 }
@@ -234,8 +235,8 @@ TEST(CodeTableau, AnyValidModelSurvivesWriteThenRead) {
     const ModeleTableau modele = generateur.Modele();
     const std::string code = EcrireCodeTableau(modele);
     ModeleTableau relu;
-    const LectureCodeTableau lu = LireCodeTableau(code, relu);
-    ASSERT_TRUE(lu.complete) << lu.raison << " at " << lu.position << " in " << code;
+    const Resultat<void> lu = LireCodeTableau(code, relu);
+    ASSERT_TRUE(lu) << test::Raison(lu) << " in " << code;
     ASSERT_EQ(relu, modele) << code;
     ASSERT_EQ(EcrireCodeTableau(relu), code);
   }

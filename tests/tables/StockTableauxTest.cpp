@@ -5,6 +5,7 @@
 #include "frame/OutilsFichiers.h"
 #include "support/DossierTemporaire.h"
 #include "support/PortsScriptes.h"
+#include "support/Resultats.h"
 #include "tables/CodeTableau.h"
 
 namespace norvane {
@@ -18,9 +19,9 @@ TEST(LireStock, FoldersJunkLinesAndHeadersOnly) {
   const std::string texte = std::string("texte en trop\r\n\r\n[Marge brute][Divers][]\r\n") + kCode +
                             "\r\n\r\n[A][][]\r\n" + kCode + "\n\n[B][  ]\r\n" + kCode + "\r\n[C][Ventes][Bl\xE9]\r\n" +
                             kCode + "\r\n";
-  LectureStock lecture;
-  const StockTableaux stock = LireStockTableaux(texte, true, &lecture);
-  EXPECT_TRUE(lecture.complete);
+  StockTableaux stock;
+  const Resultat<void> lecture = LireStockTableaux(texte, true, stock);
+  EXPECT_TRUE(lecture) << test::Raison(lecture);
   ASSERT_EQ(stock.modeles.size(), 4u);
   const std::pair<const char*, const char*> dossiers[] = {
       {"Divers", ""}, {"Divers", ""}, {"Divers", ""}, {"Ventes", "Bl\xE9"}};
@@ -29,7 +30,8 @@ TEST(LireStock, FoldersJunkLinesAndHeadersOnly) {
     EXPECT_EQ(stock.modeles[i].SousDossierTableau, dossiers[i].second) << i;
     EXPECT_EQ(stock.modeles[i].Lignes[0].Cellules[0].Texte, "Produit") << i;
   }
-  const StockTableaux entetes = LireStockTableaux(texte, false);
+  StockTableaux entetes;
+  EXPECT_TRUE(LireStockTableaux(texte, false, entetes));
   ASSERT_EQ(entetes.modeles.size(), 4u);
   EXPECT_EQ(entetes.modeles[3].Nom, "C");
   EXPECT_EQ(entetes.modeles[3].Centre, 1);
@@ -48,18 +50,25 @@ TEST(LireStock, AModelThatCannotBeReadEndsTheReading) {
       {"[A][D][]", 1, 1},
   };
   for (const Cas& c : cas) {
-    LectureStock lecture;
-    const StockTableaux stock = LireStockTableaux(c.texte, true, &lecture);
-    EXPECT_FALSE(lecture.complete) << c.texte;
+    StockTableaux stock;
+    const Resultat<void> lecture = LireStockTableaux(c.texte, true, stock);
+    ASSERT_FALSE(lecture) << c.texte;
     EXPECT_EQ(stock.modeles.size(), c.modeles) << c.texte;
-    EXPECT_EQ(lecture.ligne, c.ligne) << c.texte;
+    EXPECT_EQ(lecture.Erreur().ligne, static_cast<uint64_t>(c.ligne)) << c.texte;
   }
-  LectureStock lecture;
-  LireStockTableaux(cas[1].texte, true, &lecture);
-  const std::optional<ErreurLecture> erreur = ErreurDeLecture(lecture, "tableaux.txt");
-  ASSERT_TRUE(erreur.has_value());
-  EXPECT_EQ(erreur->Position(), "fichier tableaux.txt, enregistrement 1, octet 27");
-  EXPECT_EQ(erreur->texte, "une largeur de colonne n'est pas un nombre");
+}
+
+TEST(ChargerStock, AStopNamesTheFileTheModelTheOffsetAndTheLine) {
+  test::DossierTemporaire dossier;
+  dossier.Ecrire("tableaux.txt", std::string("[A][D][]\r\n#tvl(taba2p1;largQ;larg7200([1;1][a][b]))#\r\n"));
+  StockTableaux stock;
+  const Resultat<void> lecture = ChargerTableaux(dossier / "tableaux.txt", true, stock);
+  ASSERT_FALSE(lecture);
+  EXPECT_EQ(lecture.Erreur().Position(),
+            "fichier " + dossier.Chemin() + "tableaux.txt, enregistrement 1, octet 27, ligne 2");
+  EXPECT_EQ(lecture.Erreur().texte, "une largeur de colonne n'est pas un nombre");
+  EXPECT_EQ(stock.chemin, dossier / "tableaux.txt");
+  EXPECT_EQ(stock.modeles.size(), 1u);
 }
 
 TEST(SauverStock, CrLfRepairsAndTheSilentAutomaticSave) {
@@ -81,7 +90,8 @@ TEST(SauverStock, CrLfRepairsAndTheSilentAutomaticSave) {
             "[Incomplet][Divers][]\r\n#tvl()#\r\n\r\n");
   ASSERT_TRUE(SauverTableaux(stock, false, messages));
   EXPECT_EQ(messages.messages.size(), 1u);
-  const StockTableaux relu = ChargerTableaux(stock.chemin, true);
+  StockTableaux relu;
+  ChargerTableaux(stock.chemin, true, relu);  // the incomplete model stops the reading
   ASSERT_EQ(relu.modeles.size(), 2u);
   EXPECT_EQ(relu.modeles[0], stock.modeles[0]);
 }
@@ -97,7 +107,8 @@ TEST(AjouterSupprimer, AppendToAnotherStoreThenDeleteFromIt) {
   modele.Lignes[0].Definition.Texte = "espace";
   MessagesScriptes messages;
   ASSERT_TRUE(AjouterTableauAuFichier(chemin, modele, 1, true, messages));
-  StockTableaux stock = ChargerTableaux(chemin, true);
+  StockTableaux stock;
+  ASSERT_TRUE(ChargerTableaux(chemin, true, stock));
   ASSERT_EQ(stock.modeles.size(), 2u);
   EXPECT_EQ(stock.modeles[1].DossierTableau, "Copies - Ajouts");
   ASSERT_TRUE(SupprimerTableauDuFichier(2, chemin, messages));
@@ -105,7 +116,8 @@ TEST(AjouterSupprimer, AppendToAnotherStoreThenDeleteFromIt) {
   EXPECT_EQ(messages.messages[0].texte,
             "Le modèle de tableau n°2 \"Copie\" a été définitivement supprimé du dossier \"Copies - Ajouts\". "
             "Sous dossier : \"Blé\".");
-  EXPECT_EQ(ChargerTableaux(chemin, true).modeles.size(), 1u);
+  ASSERT_TRUE(ChargerTableaux(chemin, true, stock));
+  EXPECT_EQ(stock.modeles.size(), 1u);
   EXPECT_FALSE(SupprimerTableauDuFichier(5, chemin, messages));
 }
 
@@ -123,16 +135,16 @@ TEST(ChoixFichier, TotalAccessAsksForTheCerfaStore) {
 
 TEST(StockExemple, EveryModelWritesBackAsStoredAndReadsBackEqual) {
   const std::string chemin = std::string(NORVANE_SOURCE_DIR) + "/exemple/modeles/tableaux.txt";
-  LectureStock lecture;
-  StockTableaux stock = ChargerTableaux(chemin, true, &lecture);
-  ASSERT_TRUE(lecture.complete) << lecture.raison << " line " << lecture.ligne;
+  StockTableaux stock;
+  const Resultat<void> lecture = ChargerTableaux(chemin, true, stock);
+  ASSERT_TRUE(lecture) << test::Raison(lecture);
   ASSERT_GE(stock.modeles.size(), 12u);
   std::string texte;
   for (std::size_t i = 0; i < stock.modeles.size(); ++i) {
     const ModeleTableau& modele = stock.modeles[i];
     ModeleTableau relu = modele;
     relu.Nom.clear();
-    ASSERT_TRUE(LireCodeTableau(EcrireCodeTableau(modele), relu).complete) << modele.Nom;
+    ASSERT_TRUE(LireCodeTableau(EcrireCodeTableau(modele), relu)) << modele.Nom;
     relu.Nom = modele.Nom;
     EXPECT_EQ(relu, modele) << modele.Nom;
     texte += TexteModeleStock(modele, static_cast<int>(i + 1), nullptr);
@@ -144,10 +156,10 @@ TEST(ChargerStock, MissingOrEmptyFileGivesNoModelAndNoMessage) {
   test::DossierTemporaire dossier;
   dossier.Ecrire("vide.txt", "");
   for (const char* nom : {"absent.txt", "vide.txt"}) {
-    LectureStock lecture;
-    const StockTableaux stock = ChargerTableaux(dossier / nom, true, &lecture);
+    StockTableaux stock;
+    const Resultat<void> lecture = ChargerTableaux(dossier / nom, true, stock);
     EXPECT_TRUE(stock.modeles.empty());
-    EXPECT_TRUE(lecture.complete);
+    EXPECT_TRUE(lecture) << test::Raison(lecture);
   }
 }
 
