@@ -1,18 +1,13 @@
 # Assembles the stock templates of the PDE Cerfa report, byte for byte (no
 # line end is touched, Windows-1252 bytes pass as they are):
 #   PDE<n>.tvm       entete.rtf + pages/PDE<n>.rtf + "}"
-#   PDECerfa.tvm     entete.rtf + opening + the bodies of pages 1 to 13 joined by "\sect " + "}"
+#   PDECerfa.tvm     entete.rtf + the bodies of pages 1 to 13 joined by "\sect " + "}"
 #   PDECerfasoc.tvm  the same over pages 1 to 15 (the two company sheets)
 #   tableaux.txt     tableaux/PDE<n>.txt one after the other, in page order
 # A page not written yet is left out of the whole report; the single-page
 # template of a page whose body has gone is removed.
 #
 #   cmake -DSOURCE=<folder of entete.rtf, pages/, tableaux/> -DDESTINATION=<Norvane/PDE> -P AssemblerPDE.cmake
-#
-# The opening is a paragraph of one point ahead of the first page: when a
-# document opens on a table, as every page does with its title box,
-# LibreOffice loses the section breaks behind it, and with them each page's
-# orientation and header.
 #
 # file(READ) drops carriage returns, so files are never read into strings:
 # `cmake -E cat` joins them, and the two joints are small files of their own.
@@ -29,7 +24,6 @@ set(joints "${DESTINATION}/.assemblage")
 file(MAKE_DIRECTORY "${joints}")
 file(WRITE "${joints}/saut" "\\sect ")
 file(WRITE "${joints}/fin" "}")
-file(WRITE "${joints}/ouverture" "\\pard\\plain\\fs2\\par\r\n")
 
 # Writes the files of `ARGN`, one after the other, to `cible`.
 function(joindre cible)
@@ -67,7 +61,7 @@ foreach(n RANGE 1 ${kDernierePage})
   endif()
 endforeach()
 
-joindre("${DESTINATION}/PDECerfa.tvm" "${entete}" "${joints}/ouverture" ${rapport} "${joints}/fin")
-joindre("${DESTINATION}/PDECerfasoc.tvm" "${entete}" "${joints}/ouverture" ${rapportSociete} "${joints}/fin")
+joindre("${DESTINATION}/PDECerfa.tvm" "${entete}" ${rapport} "${joints}/fin")
+joindre("${DESTINATION}/PDECerfasoc.tvm" "${entete}" ${rapportSociete} "${joints}/fin")
 joindre("${DESTINATION}/tableaux.txt" ${modeles})
 file(REMOVE_RECURSE "${joints}")

@@ -1,8 +1,8 @@
 // The stock templates of the PDE Cerfa report: their assembly from the page
 // bodies (byte for byte, pages in their numeric order, a missing page left
-// out, the whole report opening on a paragraph), and, in the installation
-// tree, the agreement of the table codes of the templates with the models of
-// Norvane/PDE/tableaux.txt both ways.
+// out), and, in the installation tree, the agreement of the table codes of
+// the templates with the models of Norvane/PDE/tableaux.txt both ways, and
+// pages that open on a paragraph.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -31,10 +31,6 @@ bool Assembler(const std::string& source, const std::string& destination) {
   return std::system(commande.c_str()) == 0;
 }
 
-// What the whole report puts ahead of its first page, so that LibreOffice
-// keeps the section breaks of pages that open on a table.
-constexpr char kOuverture[] = "\\pard\\plain\\fs2\\par\r\n";
-
 TEST(AssemblagePDE, PagesAreJoinedInTheirOrderByteForByte) {
   DossierTemporaire d;
   const std::string entete = "{\\rtf1\\ansi\\ansicpg1252\r\n{\\fonttbl{\\f0 Arial;}}\r\n";
@@ -56,8 +52,8 @@ TEST(AssemblagePDE, PagesAreJoinedInTheirOrderByteForByte) {
   for (const auto& [n, corps] : pages) EXPECT_EQ(d.Lire("PDE/PDE" + std::to_string(n) + ".tvm"), entete + corps + "}");
   EXPECT_FALSE(d.Existe("PDE/PDE3.tvm"));
   const std::string treize = pages.at(1) + "\\sect " + pages.at(2) + "\\sect " + pages.at(10);
-  EXPECT_EQ(d.Lire("PDE/PDECerfa.tvm"), entete + kOuverture + treize + "}");
-  EXPECT_EQ(d.Lire("PDE/PDECerfasoc.tvm"), entete + kOuverture + treize + "\\sect " + pages.at(14) + "}");
+  EXPECT_EQ(d.Lire("PDE/PDECerfa.tvm"), entete + treize + "}");
+  EXPECT_EQ(d.Lire("PDE/PDECerfasoc.tvm"), entete + treize + "\\sect " + pages.at(14) + "}");
   EXPECT_EQ(d.Lire("PDE/tableaux.txt"), tableaux2 + tableaux10);
 }
 
@@ -66,8 +62,8 @@ TEST(AssemblagePDE, WithoutPagesTheReportIsAnEmptyDocument) {
   d.Ecrire("pde/entete.rtf", "{\\rtf1\r\n");
   fs::create_directories(d / "pde/pages");
   ASSERT_TRUE(Assembler(d / "pde", d / "PDE"));
-  EXPECT_EQ(d.Lire("PDE/PDECerfa.tvm"), std::string("{\\rtf1\r\n") + kOuverture + "}");
-  EXPECT_EQ(d.Lire("PDE/PDECerfasoc.tvm"), std::string("{\\rtf1\r\n") + kOuverture + "}");
+  EXPECT_EQ(d.Lire("PDE/PDECerfa.tvm"), "{\\rtf1\r\n}");
+  EXPECT_EQ(d.Lire("PDE/PDECerfasoc.tvm"), "{\\rtf1\r\n}");
   EXPECT_TRUE(d.Existe("PDE/tableaux.txt"));
   EXPECT_EQ(d.Lire("PDE/tableaux.txt"), "");
 }
@@ -142,6 +138,29 @@ TEST(StockPDE, EveryModelOfTheStoreIsUsedOnItsPage) {
     // A page not written yet has no template to use its models.
     if (!fs::exists(kStock + page)) continue;
     EXPECT_EQ(CodesTableaux(Modele(page)).count(code), 1u) << modele.nom << " n'est pas utilisé en page " << modele.page;
+  }
+}
+
+// A document that opens on a table loses, in LibreOffice, the section breaks
+// behind it, and with them each page's orientation and header: every page,
+// which may open the whole report, puts a paragraph before its first table.
+TEST(StockPDE, EveryPageOpensOnAParagraph) {
+  for (int n = 1; n <= 15; ++n) {
+    const std::string page = "PDE" + std::to_string(n) + ".tvm";
+    if (!fs::exists(kStock + page)) continue;
+    const std::string rtf = Modele(page);
+    std::size_t p = rtf.find("{\\header");
+    ASSERT_NE(p, std::string::npos) << page;
+    for (int profondeur = 0; p < rtf.size(); ++p) {
+      if (rtf[p] == '{') ++profondeur;
+      if (rtf[p] == '}' && --profondeur == 0) break;
+    }
+    const std::size_t tableau = rtf.find("\\trowd", p);
+    std::size_t paragraphe = rtf.find("\\par", p);
+    while (paragraphe != std::string::npos && rtf.compare(paragraphe, 5, "\\pard") == 0) {
+      paragraphe = rtf.find("\\par", paragraphe + 1);
+    }
+    EXPECT_LT(paragraphe, tableau) << page;
   }
 }
 
