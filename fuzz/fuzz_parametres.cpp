@@ -14,8 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const ContenuParametres lu = DecoderParametres(std::string_view(reinterpret_cast<const char*>(data), size));
   if (lu.options.SansAnnotation != 1) std::abort();
   std::string premier;
-  if (EncoderParametres(lu, premier)) std::abort();  // every text decoded fits its record
+  if (!EncoderParametres(lu, premier)) std::abort();  // every text decoded fits its record
   std::string second;
-  if (EncoderParametres(DecoderParametres(premier), second) || second != premier) std::abort();
+  if (!EncoderParametres(DecoderParametres(premier), second) || second != premier) std::abort();
   return 0;
 }

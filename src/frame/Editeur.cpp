@@ -75,9 +75,9 @@ std::string ValiderEditeur(SessionCadre& session, std::string_view chemin, PortM
   }
   std::string ancien = session.options.CheminEditeur;
   session.options.CheminEditeur = Trim(chemin);
-  if (auto erreur = EnregistrerOptions(session)) {
+  if (const Resultat<void> enregistre = EnregistrerOptions(session); !enregistre) {
     session.options.CheminEditeur = std::move(ancien);
-    messages.AfficherMessage("OptionsNorvane", kTitreChoixEditeur, *erreur, "", "");
+    messages.AfficherMessage("OptionsNorvane", kTitreChoixEditeur, enregistre.Erreur().texte, "", "");
   }
   return AfficherEditeur(session.options, session.options.CheminEditeur);
 }

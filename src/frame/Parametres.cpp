@@ -29,6 +29,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <optional>
 #include <type_traits>
 
 #include "frame/LecteurBinaire.h"
@@ -105,9 +106,9 @@ ContenuParametres DecoderParametres(std::string_view octets) {
   return contenu;
 }
 
-std::optional<std::string> EncoderParametres(const ContenuParametres& contenu, std::string& octets) {
+Resultat<void> EncoderParametres(const ContenuParametres& contenu, std::string& octets) {
   octets.clear();
-  std::optional<std::string> erreur;
+  std::optional<ErreurLecture> erreur;
   ParcourirRecords(contenu, [&](int numero, const auto& champ, const char* libelle) {
     if (erreur) return;
     const std::size_t debut = octets.size();
@@ -115,8 +116,10 @@ std::optional<std::string> EncoderParametres(const ContenuParametres& contenu, s
       EcrireEntier16(octets, champ);
     } else {
       if (champ.size() > kTexteMax) {
-        erreur = "Impossible d'enregistrer les paramètres : " + std::string(libelle) +
-                 " dépasse 126 caractères (record " + std::to_string(numero) + ").";
+        erreur = ErreurLecture{};
+        erreur->texte = "Impossible d'enregistrer les paramètres : " + std::string(libelle) +
+                        " dépasse 126 caractères (record " + std::to_string(numero) + ").";
+        erreur->enregistrement = static_cast<uint64_t>(numero);
         return;
       }
       EcrireEntier16(octets, static_cast<int16_t>(champ.size()));
@@ -124,8 +127,9 @@ std::optional<std::string> EncoderParametres(const ContenuParametres& contenu, s
     }
     if (numero < static_cast<int>(kNbRecords)) octets.resize(debut + kTailleRecord, '\0');
   });
-  if (erreur) octets.clear();
-  return erreur;
+  if (!erreur) return {};
+  octets.clear();
+  return *erreur;
 }
 
 ContenuParametres ChargerParametres(const std::string& repNorvane) {
@@ -139,15 +143,18 @@ ContenuParametres ChargerParametres(const std::string& repNorvane) {
   return DecoderParametres(LireFichier(chemin, kNbRecords * kTailleRecord).value_or(std::string()));
 }
 
-std::optional<std::string> EnregistrerParametres(const ContenuParametres& contenu, const std::string& repNorvane) {
+Resultat<void> EnregistrerParametres(const ContenuParametres& contenu, const std::string& repNorvane) {
   std::string octets;
-  if (auto erreur = EncoderParametres(contenu, octets)) return erreur;
+  if (Resultat<void> encode = EncoderParametres(contenu, octets); !encode) return encode;
   if (!DossierExiste(repNorvane)) CreeDossier(repNorvane);
   const std::string chemin = CheminFichier(repNorvane);
   if (!EcrireFichierAtomique(chemin, octets)) {
-    return "Impossible d'écrire le fichier des paramètres " + CheminReel(chemin) + ".";
+    ErreurLecture erreur;
+    erreur.texte = "Impossible d'écrire le fichier des paramètres " + CheminReel(chemin) + ".";
+    erreur.fichier = CheminReel(chemin);
+    return erreur;
   }
-  return std::nullopt;
+  return {};
 }
 
 void ChargerOptions(SessionCadre& session) {
@@ -159,7 +166,7 @@ void ChargerOptions(SessionCadre& session) {
   }
 }
 
-std::optional<std::string> EnregistrerOptions(const SessionCadre& session) {
+Resultat<void> EnregistrerOptions(const SessionCadre& session) {
   ContenuParametres contenu;
   contenu.options = session.options;
   for (std::size_t i = 0; i < contenu.RepDossier.size(); ++i) {

@@ -164,12 +164,14 @@ INSTANTIATE_TEST_SUITE_P(Magasins, EcritureAtomiqueTest, ::testing::Values("Edit
 TEST(EnregistrerParametres, AFailingWriteKeepsTheOldFile) {
   DossierTemporaire d;
   ContenuParametres contenu;
-  ASSERT_EQ(EnregistrerParametres(contenu, d.Chemin()), std::nullopt);
+  ASSERT_TRUE(EnregistrerParametres(contenu, d.Chemin()));
   const std::string avant = d.Lire("Editeur.svg");
   contenu.options.CheminEditeur = "/usr/bin/soffice";
   {
     Pieges p(2, false);
-    EXPECT_NE(EnregistrerParametres(contenu, d.Chemin()), std::nullopt);
+    const Resultat<void> echec = EnregistrerParametres(contenu, d.Chemin());
+    ASSERT_FALSE(echec);
+    EXPECT_TRUE(echec.Erreur().texte.starts_with("Impossible d'écrire le fichier des paramètres ")) << echec.Erreur().texte;
   }
   EXPECT_EQ(d.Lire("Editeur.svg"), avant);
   EXPECT_EQ(Contenu(d), std::vector<std::string>{"Editeur.svg"});

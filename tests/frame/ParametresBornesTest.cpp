@@ -16,7 +16,7 @@ TEST(ChargerParametres, AFileOfOneGigabyteIsReadForItsRecordsOnly) {
   c.options.CheminEditeur = "/usr/bin/soffice";
   c.options.AlignCellule = "r";
   c.NomDossier[5] = "DUPONT.TVL";
-  ASSERT_FALSE(EnregistrerParametres(c, tmp.Chemin()));
+  ASSERT_TRUE(EnregistrerParametres(c, tmp.Chemin()));
   std::filesystem::resize_file(tmp / "Editeur.svg", 1ull << 30);
   const ContenuParametres lu = ChargerParametres(tmp.Chemin());
   EXPECT_EQ(lu.options.CheminEditeur, "/usr/bin/soffice");

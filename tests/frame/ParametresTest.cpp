@@ -22,7 +22,7 @@ void Poser(std::string& octets, int record, const std::string& texte) {
 
 std::string Encoder(const ContenuParametres& contenu) {
   std::string octets;
-  EXPECT_FALSE(EncoderParametres(contenu, octets));
+  EXPECT_TRUE(EncoderParametres(contenu, octets));
   return octets;
 }
 
@@ -54,7 +54,7 @@ TEST(EncoderParametres, EveryRecordSitsAtItsFixedOffset) {
 TEST(ChargerOptions, TheFileComesBackIntoSessionSlotsZeroToFiveOnlyWhateverTheCaseOfItsFolder) {
   DossierTemporaire tmp;
   std::string attendu;
-  ASSERT_FALSE(EnregistrerParametres(Numerotes(attendu), tmp / "Norvane/"));
+  ASSERT_TRUE(EnregistrerParametres(Numerotes(attendu), tmp / "Norvane/"));
   SessionCadre s;
   s.RepNorvane = tmp / "NORVANE/";
   s.NomDossier[6] = "GARDE.TVL";
@@ -62,7 +62,7 @@ TEST(ChargerOptions, TheFileComesBackIntoSessionSlotsZeroToFiveOnlyWhateverTheCa
   EXPECT_EQ(s.options.SansAnnotation, 1);  // whatever was saved
   EXPECT_EQ(s.NomDossier[6], "GARDE.TVL");
   s.RepNorvane = tmp / "Copie/";
-  ASSERT_FALSE(EnregistrerOptions(s));
+  ASSERT_TRUE(EnregistrerOptions(s));
   Poser(attendu, 28, int16_t{1});
   EXPECT_EQ(tmp.Lire("Copie/Editeur.svg"), attendu);
 }
@@ -95,12 +95,15 @@ TEST(EnregistrerParametres, ATextOf126BytesIsKeptOneOf127IsRefusedAndTheFileLeft
   DossierTemporaire tmp;
   ContenuParametres c;
   c.options.CheminEditeur = "/" + std::string(125, 'e');
-  ASSERT_FALSE(EnregistrerParametres(c, tmp.Chemin()));
+  ASSERT_TRUE(EnregistrerParametres(c, tmp.Chemin()));
   EXPECT_EQ(ChargerParametres(tmp.Chemin()).options.CheminEditeur, c.options.CheminEditeur);
   const std::string avant = tmp.Lire("Editeur.svg");
   c.NomDossier[2] = std::string(127, 'n');
-  EXPECT_EQ(EnregistrerParametres(c, tmp.Chemin()),
+  const Resultat<void> refus = EnregistrerParametres(c, tmp.Chemin());
+  ASSERT_FALSE(refus);
+  EXPECT_EQ(refus.Erreur().texte,
             "Impossible d'enregistrer les paramètres : le nom d'un dossier dépasse 126 caractères (record 11).");
+  EXPECT_EQ(refus.Erreur().enregistrement, 11u);
   EXPECT_EQ(tmp.Lire("Editeur.svg"), avant);
 }
 
