@@ -23,8 +23,8 @@ const std::string& Racine() {
   static const std::string racine = [] {
     std::string modele = (std::filesystem::temp_directory_path() / "nv-fuzz-modele-XXXXXX").string();
     if (::mkdtemp(modele.data()) == nullptr) return std::string();
-    construction::ConstruireInstallation(
-        construction::ChargerDescription(NORVANE_SOURCE_DIR "/exemple/etude/installation.json"), modele);
+    const auto description = construction::ChargerDescription(NORVANE_SOURCE_DIR "/exemple/etude/installation.json");
+    if (!description || !construction::ConstruireInstallation(*description, modele)) return std::string();
     return modele + "/";
   }();
   return racine;

@@ -111,8 +111,13 @@ int main(int argc, char** argv) {
   std::string modele = (fs::temp_directory_path() / "nv-graines-XXXXXX").string();
   if (::mkdtemp(modele.data()) == nullptr) return 1;
   const fs::path source(NORVANE_SOURCE_DIR);
-  norvane::construction::ConstruireInstallation(
-      norvane::construction::ChargerDescription((source / "exemple/etude/installation.json").string()), modele);
+  const auto description =
+      norvane::construction::ChargerDescription((source / "exemple/etude/installation.json").string());
+  if (!description || !norvane::construction::ConstruireInstallation(*description, modele)) {
+    std::cerr << "fuzz_graines : l'installation d'exemple ne peut être construite\n";
+    fs::remove_all(modele);
+    return 1;
+  }
   Corpus corpus(argv[1]);
   GrainesInstallation(corpus, modele);
   GrainesModeles(corpus, source / "exemple/modeles");

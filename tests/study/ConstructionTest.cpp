@@ -10,6 +10,7 @@
 #include "construction/FichiersTableaux.h"
 #include "construction/ImagePng.h"
 #include "support/DossierTemporaire.h"
+#include "support/Resultats.h"
 #include "frame/Texte.h"
 #include "study/Catalogues.h"
 #include "study/ChampsEssai.h"
@@ -104,14 +105,20 @@ TEST(ConstructionPng, SignatureHeaderAndEnd) {
 
 class ConstructionJson : public ::testing::Test {
  protected:
-  RapportConstruction Construire(const std::string& texte) {
+  Resultat<RapportConstruction> Construire(const std::string& texte) {
     return ConstruireInstallation(Json::parse(texte), racine_.Chemin());
+  }
+  // The report of a build that must succeed.
+  RapportConstruction Construit(const std::string& texte) {
+    const Resultat<RapportConstruction> rapport = Construire(texte);
+    EXPECT_TRUE(rapport) << test::Raison(rapport);
+    return rapport ? *rapport : RapportConstruction{};
   }
   test::DossierTemporaire racine_;
 };
 
 TEST_F(ConstructionJson, ADossierFromCataloguesAndRecords) {
-  const auto rapport = Construire(R"({
+  const auto rapport = Construit(R"({
     "catalogues": [{"fichier": "RES.CFG", "Intitule": "Résultats", "series": [
       {"CodeCatalogue": "RES-2:0", "Intitule": "Produit brut", "Unite": "€", "Groupe1": "Produits"},
       {"CodeCatalogue": "RES-3:0", "Intitule": "[ sans nom ]"},
@@ -150,7 +157,7 @@ TEST_F(ConstructionJson, ADossierFromCataloguesAndRecords) {
 }
 
 TEST_F(ConstructionJson, NotesForTextsCutAndUnknownKeys) {
-  const auto rapport = Construire(R"({"organisations": [{"Sigle": "UN SIGLE BEAUCOUP TROP LONG", "Logo": "{racine}/)" +
+  const auto rapport = Construit(R"({"organisations": [{"Sigle": "UN SIGLE BEAUCOUP TROP LONG", "Logo": "{racine}/)" +
                                   std::string(90, 'x') + R"(.png", "Nmo": "faute"}], "_note": "ignorée"})");
   EXPECT_THAT(
       rapport.avertissements,
@@ -170,23 +177,35 @@ TEST_F(ConstructionJson, WrongTypesAndMissingNamesAreErrors) {
        {R"({"dossiers": [{"nom": "A.TVL", "general": {"AnneeDebut": "2025"}}]})", R"({"dossiers": [{"general": {}}]})",
         R"({"dossiers": [{"nom": "A.TVL", "general": {"NbAnEtude": 70000}}]})",
         R"({"dossiers": [{"nom": "A.TVL", "series": [{"fichier": "R.DON", "modele": "ABSENT"}]}]})"}) {
-    EXPECT_THROW(Construire(description), ErreurDescription) << description;
+    EXPECT_FALSE(Construire(description)) << description;
   }
-  try {
-    Construire(R"({"dossiers": [{"nom": "A.TVL", "general": {"Exploitant": {"JA": "oui"}}}]})");
-    FAIL();
-  } catch (const ErreurDescription& erreur) {
-    EXPECT_STREQ(erreur.what(), "dossier A.TVL, general, Exploitant : « JA » doit être vrai ou faux (true, false)");
-  }
+  const auto refus = Construire(R"({"dossiers": [{"nom": "A.TVL", "general": {"Exploitant": {"JA": "oui"}}}]})");
+  ASSERT_FALSE(refus);
+  EXPECT_EQ(refus.Erreur().texte, "dossier A.TVL, general, Exploitant : « JA » doit être vrai ou faux (true, false)");
+}
+
+TEST(ChargerDescription, AMissingFileOrBadJsonIsNamed) {
+  test::DossierTemporaire dossier;
+  dossier.Ecrire("installation.json", R"({"dossiers": ["absent.json"]})");
+  const Resultat<Json> absent = ChargerDescription(dossier / "installation.json");
+  ASSERT_FALSE(absent);
+  EXPECT_EQ(absent.Erreur().texte, "description introuvable : " + dossier.Chemin() + "absent.json");
+  EXPECT_EQ(absent.Erreur().fichier, dossier.Chemin() + "absent.json");
+  dossier.Ecrire("absent.json", "{\"nom\": ");
+  const Resultat<Json> invalide = ChargerDescription(dossier / "installation.json");
+  ASSERT_FALSE(invalide);
+  EXPECT_THAT(invalide.Erreur().texte, ::testing::StartsWith(dossier.Chemin() + "absent.json : JSON invalide : "));
 }
 
 // The example installation of the source tree builds without a note and
 // reads back through the program's own readers.
 TEST(ExempleInstallation, BuildsCleanAndReadsBack) {
   test::DossierTemporaire arbre;
-  const auto rapport =
-      ConstruireInstallation(ChargerDescription(NORVANE_SOURCE_DIR "/exemple/etude/installation.json"), arbre.Chemin());
-  EXPECT_THAT(rapport.avertissements, ::testing::IsEmpty());
+  const auto description = ChargerDescription(NORVANE_SOURCE_DIR "/exemple/etude/installation.json");
+  ASSERT_TRUE(description) << test::Raison(description);
+  const auto rapport = ConstruireInstallation(*description, arbre.Chemin());
+  ASSERT_TRUE(rapport) << test::Raison(rapport);
+  EXPECT_THAT(rapport->avertissements, ::testing::IsEmpty());
   Session session;
   session.RepWinTervol = arbre.Chemin();
   session.RepDossier[0] = arbre / "Dossier";

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <exception>
 #include <filesystem>
 #include <fstream>
 
@@ -109,19 +110,24 @@ void DonneesIni(ObjetJson& o, const std::string& racine) {
   EcrireIni(Chemin(racine, "Norvane/donnees.INI"), sections);
 }
 
-Json LireJson(const std::filesystem::path& chemin) {
+ErreurLecture Echec(std::string texte, std::string fichier = {}) {
+  ErreurLecture erreur;
+  erreur.texte = std::move(texte);
+  erreur.fichier = std::move(fichier);
+  return erreur;
+}
+
+Resultat<Json> LireJson(const std::filesystem::path& chemin) {
   std::ifstream flux(chemin);
-  if (!flux) throw ErreurDescription("description introuvable : " + chemin.string());
+  if (!flux) return Echec("description introuvable : " + chemin.string(), chemin.string());
   try {
     return Json::parse(flux);
   } catch (const Json::parse_error& erreur) {
-    throw ErreurDescription(chemin.string() + " : JSON invalide : " + erreur.what());
+    return Echec(chemin.string() + " : JSON invalide : " + erreur.what(), chemin.string());
   }
 }
 
-}  // namespace
-
-RapportConstruction ConstruireInstallation(const Json& description, const std::string& racine) {
+RapportConstruction Construire(const Json& description, const std::string& racine) {
   Journal journal{std::filesystem::absolute(racine).lexically_normal().string(), {}, {}};
   while (journal.racine.size() > 1 && journal.racine.back() == '/') journal.racine.pop_back();
   ObjetJson o(description, "installation", journal);
@@ -137,14 +143,28 @@ RapportConstruction ConstruireInstallation(const Json& description, const std::s
   return {std::move(journal.avertissements), std::move(journal.remarques)};
 }
 
-Json ChargerDescription(const std::string& chemin) {
+}  // namespace
+
+Resultat<RapportConstruction> ConstruireInstallation(const Json& description, const std::string& racine) {
+  try {
+    return Construire(description, racine);
+  } catch (const std::exception& erreur) {  // ErreurDescription, or a file or folder that cannot be made
+    return Echec(erreur.what());
+  }
+}
+
+Resultat<Json> ChargerDescription(const std::string& chemin) {
   const std::filesystem::path fichier(chemin);
-  Json description = LireJson(fichier);
+  Resultat<Json> description = LireJson(fichier);
+  if (!description) return description;
   for (const char* cle : {"catalogues", "gabarits", "dossiers"}) {
-    if (!description.contains(cle) || !description[cle].is_array()) continue;
-    for (Json& element : description[cle]) {
-      if (element.is_string())
-        element = ChargerDescription((fichier.parent_path() / element.get<std::string>()).string());
+    Json& tout = description.Valeur();
+    if (!tout.contains(cle) || !tout[cle].is_array()) continue;
+    for (Json& element : tout[cle]) {
+      if (!element.is_string()) continue;
+      Resultat<Json> partie = ChargerDescription((fichier.parent_path() / element.get<std::string>()).string());
+      if (!partie) return partie;
+      element = std::move(partie.Valeur());
     }
   }
   return description;

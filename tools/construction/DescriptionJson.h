@@ -52,6 +52,7 @@
 #include <vector>
 
 #include "construction/LectureJson.h"
+#include "frame/Resultat.h"
 
 namespace norvane::construction {
 
@@ -63,12 +64,14 @@ struct RapportConstruction {
   std::vector<std::string> remarques;
 };
 
-// Writes the whole installation under `racine` (made if needed). Throws
-// ErreurDescription on a value of the wrong type or a missing name, and
-// std::runtime_error on a write failure.
-RapportConstruction ConstruireInstallation(const Json& description, const std::string& racine);
+// Writes the whole installation under `racine` (made if needed). Fails on a
+// value of the wrong type, a missing name or a file that cannot be written,
+// with a text that says where in the description; what was written before
+// stays.
+Resultat<RapportConstruction> ConstruireInstallation(const Json& description, const std::string& racine);
 
 // Reads a description file and the files it names, into one JSON value.
-Json ChargerDescription(const std::string& chemin);
+// Fails, naming the file, when one is missing or not valid JSON.
+Resultat<Json> ChargerDescription(const std::string& chemin);
 
 }  // namespace norvane::construction

@@ -2,7 +2,9 @@
 // which converts texts from UTF-8 to Windows-1252, replaces "{racine}" by the
 // installation's root, and notes in the journal what does not fit (a text
 // longer than its field, which is cut; a key that nothing reads, a misspelt
-// one most likely). A value of the wrong type throws ErreurDescription.
+// one most likely). A value of the wrong type throws ErreurDescription: the
+// builder's way out of the depths of a description, which its entry points
+// (DescriptionJson.h) turn into a failed Resultat.
 #pragma once
 
 #include <array>
