@@ -48,7 +48,7 @@ std::string Corps(const ModeleGraphique& m) {
   return code.substr(4, code.size() - 5);
 }
 
-TEST(CodeGraphique, TexteDUnModeleComplet) {
+TEST(CodeGraphique, TextOfACompleteModel) {
   EXPECT_EQ(ConstruireCodeGraphique(ModeleComplet()),
             "gph(R\xE9sultats de l'exploitation;10;1;2;-1;Source : dossier d'\xE9tude;1;3;2;5;"
             "100,5;7800;5000;5800;200;7000,25;600;4900;7000;7800;1000;2000;100;4000;0;500;20,5;-35;"
@@ -56,7 +56,7 @@ TEST(CodeGraphique, TexteDUnModeleComplet) {
             "[RES-17:0;EBE;1;RES.DON;0;10;120;250;30;1][RES-18:0;Annuit\xE9s;2;RES.DON;1;11;120;250;30;2])");
 }
 
-TEST(CodeGraphique, CodeInsereAvecSesBlancsEnSoulignes) {
+TEST(CodeGraphique, AnInsertedCodeHasItsBlanksAsUnderscores) {
   ModeleGraphique m;
   m.Titre = "Mon graphique   ";
   const std::string code = CodeGraphiqueInsere(m);
@@ -65,13 +65,13 @@ TEST(CodeGraphique, CodeInsereAvecSesBlancsEnSoulignes) {
   EXPECT_EQ(code.find(' '), std::string::npos);
 }
 
-TEST(CodeGraphique, AllerRetourChampParChamp) {
+TEST(CodeGraphique, RoundTripFieldByField) {
   ModeleGraphique lu;
   EXPECT_EQ(LireCodeGraphique(lu, Corps(ModeleComplet())).etat, LectureCode::Complete);
   ExpectMemesChampsDeCode(lu, ModeleComplet());
 }
 
-TEST(CodeGraphique, AllerRetourDeModelesAuHasard) {
+TEST(CodeGraphique, RoundTripOfRandomModels) {
   test::ModelesAleatoires modeles(20261124);
   for (int i = 0; i < 500; ++i) {
     const ModeleGraphique m = modeles.Suivant();
@@ -85,7 +85,7 @@ TEST(CodeGraphique, AllerRetourDeModelesAuHasard) {
   }
 }
 
-TEST(CodeGraphique, LesFlottantsSeLisentAvecUneVirguleOuUnPoint) {
+TEST(CodeGraphique, FloatsAreReadWithACommaOrAPoint) {
   std::string corps = "T;1;1;0;0;;0;0;0;0;";
   for (const char* v : {"1,5;", "1.5;", "-2.25;", "1E+30;", "3,5e2;", " 7 ;", "+4;", "8;"}) corps += v;
   for (int champ = 18; champ < kChampsEnteteGraphique; ++champ) corps += "0;";
@@ -104,7 +104,7 @@ TEST(CodeGraphique, LesFlottantsSeLisentAvecUneVirguleOuUnPoint) {
   EXPECT_EQ(TexteFlottantCode(-std::numeric_limits<float>::infinity()), "0");
 }
 
-TEST(CodeGraphique, UnCodeSansSerieEstCompletApresSonQuaranteCinquiemePointVirgule) {
+TEST(CodeGraphique, ACodeWithoutSeriesIsCompleteAfterItsFortyFifthSemicolon) {
   ModeleGraphique m = ModeleComplet();
   m.NbSeries = 0;
   const std::string corps = Corps(m);
@@ -116,7 +116,7 @@ TEST(CodeGraphique, UnCodeSansSerieEstCompletApresSonQuaranteCinquiemePointVirgu
   EXPECT_EQ(lu.TailleTitre, 16);
 }
 
-TEST(CodeGraphique, MoinsDeChampsDeTeteGardentLesValeursDuSlot) {
+TEST(CodeGraphique, FewerHeaderFieldsKeepTheSlotValues) {
   ModeleGraphique slot = ModeleComplet();
   const IssueLectureCode issue = LireCodeGraphique(slot, "Nouveau;4;0;0;1;Note");
   EXPECT_EQ(issue.etat, LectureCode::Complete);
@@ -131,7 +131,7 @@ TEST(CodeGraphique, MoinsDeChampsDeTeteGardentLesValeursDuSlot) {
   EXPECT_EQ(slot.AxeY.Libelle, "Euros");
 }
 
-TEST(CodeGraphique, LeCrochetManquantArreteLaLectureEtSeSignale) {
+TEST(CodeGraphique, AMissingBracketStopsTheReadingAndIsReported) {
   ModeleGraphique m = ModeleComplet();
   std::string corps = Corps(m);
   corps.erase(corps.rfind('['), 1);
@@ -154,7 +154,7 @@ TEST(CodeGraphique, LeCrochetManquantArreteLaLectureEtSeSignale) {
             "donc pas été correctement récupérée(s).");
 }
 
-TEST(CodeGraphique, UnChampNonNumeriqueSeSignaleSansPlanter) {
+TEST(CodeGraphique, ANonNumericFieldIsReportedWithoutACrash) {
   struct Cas {
     std::string corps;
     int serie;
@@ -190,7 +190,7 @@ TEST(CodeGraphique, UnChampNonNumeriqueSeSignaleSansPlanter) {
             "nombre.\nLe graphique est laissé vide.");
 }
 
-TEST(CodeGraphique, PlusDeDixSeriesSontLuesDix) {
+TEST(CodeGraphique, MoreThanTenSeriesAreReadAsTen) {
   ModeleGraphique m = ModeleComplet();
   m.NbSeries = 10;
   std::string corps = Corps(m);
@@ -200,7 +200,7 @@ TEST(CodeGraphique, PlusDeDixSeriesSontLuesDix) {
   EXPECT_EQ(lu.NbSeries, 10);
 }
 
-TEST(CodeGraphique, PreparationDuTexteVenuDuModeleRtf) {
+TEST(CodeGraphique, PreparingTheTextThatCameFromTheRtfTemplate) {
   const std::vector<std::pair<std::string, std::string>> cas = {
       {"Mon graphique", "Mongraphique"},
       {"Mon_graphique", "Mon graphique"},

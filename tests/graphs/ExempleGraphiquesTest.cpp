@@ -31,7 +31,7 @@ class ExempleGraphiquesTest : public ::testing::Test {
   construction::Journal journal;
 };
 
-TEST_F(ExempleGraphiquesTest, UnModeleDeChaqueTypeUneCombinaisonADeuxAxesEtDesBarresEmpilees) {
+TEST_F(ExempleGraphiquesTest, OneModelOfEachTypeATwoAxisCombinationAndStackedBars) {
   EXPECT_TRUE(journal.avertissements.empty());
   std::set<int> types;
   bool deuxAxes = false;
@@ -53,7 +53,7 @@ TEST_F(ExempleGraphiquesTest, UnModeleDeChaqueTypeUneCombinaisonADeuxAxesEtDesBa
 
 // Each chart of the example template is one of the example models, as the
 // editor would have inserted it.
-TEST_F(ExempleGraphiquesTest, LesCodesDuModeleDeDocumentSontCeuxDesModeles) {
+TEST_F(ExempleGraphiquesTest, TheDocumentTemplateCodesAreThoseOfTheModels) {
   const std::string tvm =
       LireFichier(std::string(NORVANE_SOURCE_DIR) + "/exemple/modeles/Graphiques.tvm").value_or(std::string());
   int codes = 0;

@@ -43,7 +43,7 @@ class GraphiquesGenerationTest : public test::BancInterpreteur {
   GraphiquesGeneration port{&dessin, [this] { return prochainHasard; }};
 };
 
-TEST_F(GraphiquesGenerationTest, LeCodeDevientLImageDuGraphiqueAvecLesValeursDuDossier) {
+TEST_F(GraphiquesGenerationTest, TheCodeBecomesTheGraphPictureWithTheDossierValues) {
   EXPECT_EQ(Interpreter("avant " + CodeDe(test::ModeleComplet()) + " apr\xE8s"), "avant {\\pict image} apr\xE8s");
   ASSERT_EQ(dessin.modeles.size(), 1u);
   const ModeleGraphique& m = dessin.modeles[0];
@@ -57,7 +57,7 @@ TEST_F(GraphiquesGenerationTest, LeCodeDevientLImageDuGraphiqueAvecLesValeursDuD
   EXPECT_TRUE(messages.messages.empty()) << messages.Journal();
 }
 
-TEST_F(GraphiquesGenerationTest, UneSerieSansCouleurEnRecoitUneGardeeDansLeModeleDeTravail) {
+TEST_F(GraphiquesGenerationTest, ASeriesWithoutAColourGetsOneKeptInTheWorkingModel) {
   ModeleGraphique m = test::ModeleComplet();
   m.Series[0].Rouge = m.Series[0].Vert = m.Series[0].Bleu = 0;
   Interpreter(CodeDe(m));
@@ -70,7 +70,7 @@ TEST_F(GraphiquesGenerationTest, UneSerieSansCouleurEnRecoitUneGardeeDansLeModel
   EXPECT_EQ(port.ModeleCourant().Series[0].Rouge, 227);
 }
 
-TEST_F(GraphiquesGenerationTest, UnCodeCourtGardeCeQueLeCodePrecedentALaisse) {
+TEST_F(GraphiquesGenerationTest, AShortCodeKeepsWhatThePreviousCodeLeft) {
   Interpreter(CodeDe(test::ModeleComplet()));
   Valeur("gph(Court;2;0;0;)");
   ASSERT_EQ(dessin.modeles.size(), 2u);
@@ -80,7 +80,7 @@ TEST_F(GraphiquesGenerationTest, UnCodeCourtGardeCeQueLeCodePrecedentALaisse) {
   EXPECT_EQ(dessin.grilles[1].NbColonnes(), 0);
 }
 
-TEST_F(GraphiquesGenerationTest, UnCodeDAncienneVersionSeSignaleSansImage) {
+TEST_F(GraphiquesGenerationTest, AnOldVersionCodeIsReportedWithoutAPicture) {
   EXPECT_EQ(Valeur("gph(Ancien)"), "\\~");
   EXPECT_TRUE(dessin.modeles.empty());
   const MessageEnregistre boite = Boite();
@@ -88,7 +88,7 @@ TEST_F(GraphiquesGenerationTest, UnCodeDAncienneVersionSeSignaleSansImage) {
   EXPECT_EQ(boite.texte, "Le code balisé #tvl(gph(...))# est mal renseigné dans le modèle de document.");
 }
 
-TEST_F(GraphiquesGenerationTest, UnChampNonNumeriqueDonneUnGraphiqueVide) {
+TEST_F(GraphiquesGenerationTest, ANonNumericFieldGivesAnEmptyGraph) {
   Valeur("gph(Titre;barres;1;2;)");
   ASSERT_EQ(dessin.modeles.size(), 1u);
   EXPECT_EQ(dessin.modeles[0].NbSeries, 0);
@@ -98,7 +98,7 @@ TEST_F(GraphiquesGenerationTest, UnChampNonNumeriqueDonneUnGraphiqueVide) {
             "Le graphique est laissé vide.");
 }
 
-TEST_F(GraphiquesGenerationTest, TropDAnneesDonneUnGraphiqueVide) {
+TEST_F(GraphiquesGenerationTest, TooManyYearsGiveAnEmptyGraph) {
   Info().NbAnEtude = 20;
   Interpreter(CodeDe(test::ModeleComplet()));
   ASSERT_EQ(dessin.modeles.size(), 1u);
@@ -106,14 +106,14 @@ TEST_F(GraphiquesGenerationTest, TropDAnneesDonneUnGraphiqueVide) {
   EXPECT_EQ(Boite().conseil, "Le graphique est laissé vide.");
 }
 
-TEST_F(GraphiquesGenerationTest, SansDessinateurLaValeurEstVide) {
+TEST_F(GraphiquesGenerationTest, WithoutADrawerTheValueIsEmpty) {
   GraphiquesGeneration sansDessin(nullptr);
   generation.graphiques = &sansDessin;
   EXPECT_EQ(Valeur("gph(T;1;0;0;)"), "\\~");
   EXPECT_EQ(sansDessin.ModeleCourant().Titre, "T");
 }
 
-TEST_F(GraphiquesGenerationTest, LeModeExplicationDonneLeTitreDuGraphique) {
+TEST_F(GraphiquesGenerationTest, ExplainModeGivesTheGraphTitle) {
   Interpreter("#tvl(gph(Mon_EBE;4;0;0;))#", true);
   EXPECT_TRUE(dessin.modeles.empty());
   EXPECT_EQ(Boite().texte, "#tvl(gph(Mon_EBE;4;0;0;))# est le code pour afficher le graphique \"Mon EBE\".");

@@ -42,7 +42,7 @@ class SeriesGraphiqueTest : public ::testing::Test {
   GrilleGraphique grille;
 };
 
-TEST_F(SeriesGraphiqueTest, LesValeursDUneSerieSontCellesDeSonCode) {
+TEST_F(SeriesGraphiqueTest, ASeriesValuesAreThoseOfItsCode) {
   const ValeursSerie ebe = LireValeursSerie(Dossier(), " res.don ", "RES-17:0  ");
   EXPECT_EQ(ebe[0], 50.0f);
   EXPECT_EQ(ebe[13], 23.0f);
@@ -53,7 +53,7 @@ TEST_F(SeriesGraphiqueTest, LesValeursDUneSerieSontCellesDeSonCode) {
   }
 }
 
-TEST_F(SeriesGraphiqueTest, LaGrillePrendLesAnneesDEtudeEtLesSeriesDuDossier) {
+TEST_F(SeriesGraphiqueTest, TheGridTakesTheStudyYearsAndTheDossierSeries) {
   ASSERT_TRUE(RemplirGrille(Modele({{"RES.DON", "RES-1:0"}, {"RES.DON", "RES-17:0"}}), source, grille, messages));
   ASSERT_EQ(grille.NbLignes(), 3);
   ASSERT_EQ(grille.NbColonnes(), 2);
@@ -64,7 +64,7 @@ TEST_F(SeriesGraphiqueTest, LaGrillePrendLesAnneesDEtudeEtLesSeriesDuDossier) {
   EXPECT_EQ(grille.Valeur(3, 1), 0.0);
 }
 
-TEST_F(SeriesGraphiqueTest, UneSerieAbsenteDeSonFichierSeDessineAZero) {
+TEST_F(SeriesGraphiqueTest, ASeriesMissingFromItsFileIsDrawnAtZero) {
   // The series read before it must not leak into it.
   ASSERT_TRUE(RemplirGrille(Modele({{"RES.DON", "RES-17:0"}, {"RES.DON", "RES-5:0"}, {"AUTRE.DON", "RES-17:0"}}),
                             source, grille, messages));
@@ -75,7 +75,7 @@ TEST_F(SeriesGraphiqueTest, UneSerieAbsenteDeSonFichierSeDessineAZero) {
   EXPECT_TRUE(messages.messages.empty());
 }
 
-TEST_F(SeriesGraphiqueTest, SansAnneesUneLigneParSerie) {
+TEST_F(SeriesGraphiqueTest, WithoutYearsOneRowPerSeries) {
   source.NbAnEtude = 0;
   ASSERT_TRUE(RemplirGrille(Modele({{"RES.DON", "RES-1:0"}, {"RES.DON", "RES-17:0"}}), source, grille, messages));
   EXPECT_EQ(grille.NbLignes(), 2);
@@ -84,7 +84,7 @@ TEST_F(SeriesGraphiqueTest, SansAnneesUneLigneParSerie) {
   EXPECT_EQ(grille.NbColonnes(), 0);
 }
 
-TEST_F(SeriesGraphiqueTest, ValeursExemplesSansDossier) {
+TEST_F(SeriesGraphiqueTest, ExampleValuesWithoutADossier) {
   source.valeursExemple = true;
   source.dossier.clear();
   ASSERT_TRUE(RemplirGrille(Modele({{"RES.DON", "RES-1:0"}}), source, grille, messages));
@@ -93,7 +93,7 @@ TEST_F(SeriesGraphiqueTest, ValeursExemplesSansDossier) {
   EXPECT_EQ(grille.LibellesLignes[0], "2025");
 }
 
-TEST_F(SeriesGraphiqueTest, PlusDAnneesQueLesSeriesNEnPortentDonneUnGraphiqueVide) {
+TEST_F(SeriesGraphiqueTest, MoreYearsThanTheSeriesHoldGiveAnEmptyGraph) {
   source.NbAnEtude = 13;
   ASSERT_TRUE(RemplirGrille(Modele({{"RES.DON", "RES-17:0"}}), source, grille, messages));
   EXPECT_EQ(grille.Valeur(12, 0), 23.0);
@@ -108,7 +108,7 @@ TEST_F(SeriesGraphiqueTest, PlusDAnneesQueLesSeriesNEnPortentDonneUnGraphiqueVid
             "Le graphique \"EBE\" demande 14 années d'étude ; les séries de données n'en portent que 13.");
 }
 
-TEST_F(SeriesGraphiqueTest, LaSourceDUneSessionEstSonDossierCourant) {
+TEST_F(SeriesGraphiqueTest, ASessionsSourceIsItsCurrentDossier) {
   Session session;
   session.RepDossier[0] = "/x/";
   session.NomDossier[0] = "ESSAI.TVL";

@@ -101,14 +101,14 @@ void ExpectMemeModele(const ModeleGraphique& a, const ModeleGraphique& b) {
   EXPECT_EQ(OctetsAttendus(a), OctetsAttendus(b));
 }
 
-TEST(EnregistrementGraphique, EcritChaqueChampASonDecalage) {
+TEST(EnregistrementGraphique, WritesEachFieldAtItsOffset) {
   std::string octets;
   EcrireModeleGraphique(octets, ModeleComplet());
   ASSERT_EQ(octets.size(), kLongueurModeleGraphique);
   EXPECT_EQ(octets, OctetsAttendus(ModeleComplet()));
 }
 
-TEST(EnregistrementGraphique, RelitChampParChampUnEnregistrementEcritAilleurs) {
+TEST(EnregistrementGraphique, ReadsBackFieldByFieldARecordWrittenElsewhere) {
   const std::string octets = OctetsAttendus(ModeleComplet());
   LecteurBinaire lecteur(octets);
   ModeleGraphique lu;
@@ -121,7 +121,7 @@ TEST(EnregistrementGraphique, RelitChampParChampUnEnregistrementEcritAilleurs) {
   ExpectMemeModele(lu, ModeleComplet());
 }
 
-TEST(EnregistrementGraphique, UnModeleNeufEcritDesZerosDansLesChampsReserves) {
+TEST(EnregistrementGraphique, ANewModelWritesZerosInTheReservedFields) {
   std::string octets;
   EcrireModeleGraphique(octets, ModeleGraphique{});
   EXPECT_EQ(octets.substr(1200, 24), std::string(24, '\0'));
@@ -152,7 +152,7 @@ class StockGraphiquesTest : public ::testing::Test {
   MessagesScriptes messages_;
 };
 
-TEST_F(StockGraphiquesTest, UnFichierAbsentEstUnStockVideQuiMontreAucunEnregistrement) {
+TEST_F(StockGraphiquesTest, AMissingFileIsAnEmptyStoreShowingNoRecord) {
   const StockGraphiques stock = Charger();
   EXPECT_EQ(stock.NbGraphiques, 0);
   EXPECT_TRUE(dossier_.Existe("ModelGraph"));
@@ -164,7 +164,7 @@ TEST_F(StockGraphiquesTest, UnFichierAbsentEstUnStockVideQuiMontreAucunEnregistr
   EXPECT_TRUE(messages_.messages.empty());
 }
 
-TEST_F(StockGraphiquesTest, LeFichierRelitEtReecritOctetPourOctet) {
+TEST_F(StockGraphiquesTest, TheFileReadsBackAndWritesBackByteForByte) {
   ModeleGraphique autre = ModeleComplet();
   autre.Titre = "Autre";
   autre.TypeGraph = kSecteurs2D;
@@ -182,7 +182,7 @@ TEST_F(StockGraphiquesTest, LeFichierRelitEtReecritOctetPourOctet) {
   EXPECT_EQ(NumeroGraphiqueDeCle(arbre[2].cle), 2);
 }
 
-TEST_F(StockGraphiquesTest, LeNombreDeModelesEstLaLongueurArrondieAuPlusPres) {
+TEST_F(StockGraphiquesTest, TheModelCountIsTheLengthRoundedToTheNearest) {
   const std::string un = OctetsAttendus(ModeleComplet());
   struct Cas {
     std::size_t longueur;
@@ -194,7 +194,7 @@ TEST_F(StockGraphiquesTest, LeNombreDeModelesEstLaLongueurArrondieAuPlusPres) {
   }
 }
 
-TEST_F(StockGraphiquesTest, UnEnregistrementCoupeGardeCeQueLeSlotTenaitDerriereSaFin) {
+TEST_F(StockGraphiquesTest, ACutRecordKeepsWhatTheSlotHeldBehindItsEnd) {
   EcrireFichier(OctetsAttendus(ModeleComplet()).substr(0, 700));
   StockGraphiques stock;
   stock.Slot(1).TailleTitre = 42;
@@ -204,7 +204,7 @@ TEST_F(StockGraphiquesTest, UnEnregistrementCoupeGardeCeQueLeSlotTenaitDerriereS
   EXPECT_EQ(stock.Slot(1).TailleTitre, 42);
 }
 
-TEST_F(StockGraphiquesTest, TitresRendusUniques) {
+TEST_F(StockGraphiquesTest, TitlesAreMadeUnique) {
   const std::string soixante(60, 'T');
   struct Cas {
     std::vector<std::string> titres;
@@ -232,7 +232,7 @@ TEST_F(StockGraphiquesTest, TitresRendusUniques) {
   }
 }
 
-TEST_F(StockGraphiquesTest, UnNouveauModelePrendLesValeursParDefautEtGardeLeReste) {
+TEST_F(StockGraphiquesTest, ANewModelTakesTheDefaultsAndKeepsTheRest) {
   StockGraphiques stock;
   stock.Slot(1) = ModeleComplet();
   ASSERT_TRUE(AjouterGraphique(stock, messages_));
@@ -261,7 +261,7 @@ TEST_F(StockGraphiquesTest, UnNouveauModelePrendLesValeursParDefautEtGardeLeRest
   EXPECT_EQ(m.Elevation, 20.5f);
 }
 
-TEST_F(StockGraphiquesTest, CinquanteModelesAuPlus) {
+TEST_F(StockGraphiquesTest, FiftyModelsAtMost) {
   StockGraphiques stock;
   for (int i = 0; i < kNombreSlotsGraphiques; ++i) ASSERT_TRUE(AjouterGraphique(stock, messages_));
   EXPECT_TRUE(messages_.messages.empty());
@@ -272,7 +272,7 @@ TEST_F(StockGraphiquesTest, CinquanteModelesAuPlus) {
   EXPECT_EQ(messages_.messages[0].texte, "Vous êtes limité à 50 modèles de graphique.");
 }
 
-TEST_F(StockGraphiquesTest, SupprimerRemonteLesSuivantsJusquAuCinquantieme) {
+TEST_F(StockGraphiquesTest, DeletingMovesTheFollowingOnesUpToTheFiftieth) {
   for (const int nombre : {3, 50}) {
     StockGraphiques stock;
     for (int i = 1; i <= nombre; ++i) {
@@ -294,7 +294,7 @@ TEST_F(StockGraphiquesTest, SupprimerRemonteLesSuivantsJusquAuCinquantieme) {
   EXPECT_FALSE(SupprimerGraphique(vide));
 }
 
-TEST_F(StockGraphiquesTest, AuDelaDeCinquanteLesModelesSontGardesDansLeFichier) {
+TEST_F(StockGraphiquesTest, BeyondFiftyTheModelsAreKeptInTheFile) {
   std::string octets;
   for (int i = 1; i <= 52; ++i) {
     ModeleGraphique m = ModeleComplet();
@@ -312,7 +312,7 @@ TEST_F(StockGraphiquesTest, AuDelaDeCinquanteLesModelesSontGardesDansLeFichier) 
   EXPECT_EQ(Fichier(), octets);
 }
 
-TEST(TypesGraphiques, NomsLongsEtCourts) {
+TEST(TypesGraphiques, LongAndShortNames) {
   EXPECT_EQ(NomTypeGraphique(1), "Graphique à barres 3D");
   EXPECT_EQ(NomTypeGraphique(12), "Graphique XY 2D");
   EXPECT_EQ(NomCourtTypeGraphique(7), "escalier 3D");
@@ -326,7 +326,7 @@ TEST(TypesGraphiques, NomsLongsEtCourts) {
 namespace norvane {
 namespace {
 
-TEST(RecuperationGraphique, LeModeleDUnCodeEstAjouteAvecSonTitrePrefixe) {
+TEST(RecuperationGraphique, TheModelOfACodeIsAddedWithItsTitlePrefixed) {
   StockGraphiques stock;
   MessagesScriptes messages;
   AjouterGraphique(stock, messages);

@@ -35,7 +35,7 @@ class ChampsGeneraux : public BancInterpreteur {
   DossierTemporaire temporaire;
 };
 
-TEST_F(ChampsGeneraux, NomsSelonSocieteEtAssociePrincipal) {
+TEST_F(ChampsGeneraux, NamesDependOnTheCompanyAndTheMainAssociate) {
   Valeurs({{"nomExploit", "GAEC DES CHAMPS"}, {"nomSociete", "\\~"}, {"nomExplJA", "GAEC DES CHAMPS"},
            {"typeSoc", "individuelle"}, {"sitExplJA", "marie"}});
   Societe();  // with no JA associate
@@ -47,7 +47,7 @@ TEST_F(ChampsGeneraux, NomsSelonSocieteEtAssociePrincipal) {
   EXPECT_EQ(Valeur("nomExplJA"), "Exploitant seul");
 }
 
-TEST_F(ChampsGeneraux, ListesDAssocies) {
+TEST_F(ChampsGeneraux, AssociatesAreListedInEachWording) {
   DeuxAssocies();
   Valeurs({{"associes", Cp("Liste des associés : \\par - Pierre, né(e) le : 01/02/1980\\par "
                            "- Paul, Jeune Agriculteur\\par")},
@@ -63,7 +63,7 @@ TEST_F(ChampsGeneraux, ListesDAssocies) {
            {"nbAssJA", "0"}, {"nomAss1", "\\~"}});
 }
 
-TEST_F(ChampsGeneraux, PlusDeDixAssociesBornesADix) {
+TEST_F(ChampsGeneraux, MoreThanTenAssociatesAreBoundedToTen) {
   Societe();
   Info().NbAssocies = 25;
   std::string attendu = Cp("Nom des associés : \\par");
@@ -76,7 +76,7 @@ TEST_F(ChampsGeneraux, PlusDeDixAssociesBornesADix) {
   EXPECT_EQ(Valeur("nomAssocies"), Cp("Nom des associés : \\par"));
 }
 
-TEST_F(ChampsGeneraux, DescriptionCheminDeviseModesEtSautDePage) {
+TEST_F(ChampsGeneraux, DescriptionPathCurrencyMarketingModesAndPageBreakAreWritten) {
   Info().DescriptionProjet = "Ligne un  \r\n  Ligne deux\r\nTrois\r\nQuatre\r\nCinq      ";
   Info().CheminDossierTervol = "C:\\Etudes\\DUPONT.TVL\\   ";
   Info().Devise = 1;
@@ -98,7 +98,7 @@ TEST_F(ChampsGeneraux, DescriptionCheminDeviseModesEtSautDePage) {
   EXPECT_EQ(Interpreter("{a#tvl(saut2page)#}"), "{a\\page}");
 }
 
-TEST_F(ChampsGeneraux, DateDuDossierCoupeANeufCaracteres) {
+TEST_F(ChampsGeneraux, TheDossierDateIsCutToNineCharacters) {
   temporaire.Ecrire("ESSAI.TVL/ESSAI.TVL", "");
   const auto quand = std::chrono::system_clock::from_time_t(MomentLocal(2024, 3, 5, 12, 0, 0));
   std::filesystem::last_write_time(temporaire / "ESSAI.TVL", std::chrono::file_clock::from_sys(quand));
@@ -109,7 +109,7 @@ TEST_F(ChampsGeneraux, DateDuDossierCoupeANeufCaracteres) {
   EXPECT_EQ(Valeur("dateDossier"), "\\~");
 }
 
-TEST_F(ChampsGeneraux, DatesDExercice) {
+TEST_F(ChampsGeneraux, FinancialYearDatesFollowTheStudyStart) {
   // Exercise 0 is the year before the study; a study starting on 1 January
   // reads the year of its end one too high.
   const std::tuple<std::string, std::string, std::string> cas[] = {
@@ -128,7 +128,7 @@ TEST_F(ChampsGeneraux, DatesDExercice) {
   EXPECT_EQ(MoisClair(0) + MoisClair(13), "");
 }
 
-TEST_F(ChampsGeneraux, AgeEnAnneesAMoisDeTrenteJoursEtDemi) {
+TEST_F(ChampsGeneraux, AgeIsCountedInYearsOfThirtyAndAHalfDayMonths) {
   // Today is 22/11/2026; the day count is held within 16 bits.
   for (const auto& [naissance, age] : Cas{{"22/11/1986", "40"}, {"23/11/1986", "39"}, {"**/**/****", "??"},
                                           {"          ", "??"}, {"01/01/1900", "89"}}) {
@@ -146,7 +146,7 @@ TEST_F(ChampsGeneraux, AgeEnAnneesAMoisDeTrenteJoursEtDemi) {
   EXPECT_EQ(Valeur("ageExplJA"), "26");
 }
 
-TEST_F(ChampsGeneraux, OrganisationsParChampEtIndex) {
+TEST_F(ChampsGeneraux, OrganisationsAreReadByFieldAndIndex) {
   for (int i = 0; i < 20; ++i) {
     const std::string n = std::to_string(i);
     auto& o = session.Organisations[i];
@@ -160,7 +160,7 @@ TEST_F(ChampsGeneraux, OrganisationsParChampEtIndex) {
   EXPECT_TRUE(messages.messages.empty());
 }
 
-TEST_F(ChampsGeneraux, LogoIncorporeOuParLePortDImages) {
+TEST_F(ChampsGeneraux, ALogoIsEmbeddedOrGoesThroughThePicturesPort) {
   session.Organisations[2].Logo = temporaire / "absent.png";
   EXPECT_EQ(Valeur("ORGALOGO2"), "\\~");
   construction::EcrirePng(temporaire / "logo.png", {});

@@ -20,7 +20,7 @@ class Directives : public BancInterpreteur {
   DossierTemporaire temporaire;
 };
 
-TEST_F(Directives, ConditionNonNulleSurLeTexteAutresFormesVraiesEtNumerosDePage) {
+TEST_F(Directives, ConditionsTestTheTextForNonZeroOtherFormsAreTrueAndPageNumbersShareOneCounter) {
   EXPECT_EQ(Valeur("si(1<>0)alors:adresse"), "1 rue du Bourg");
   EXPECT_EQ(resultat, -1);
   EXPECT_EQ(Interpreter("a #tvl(si(0<>0)alors:adresse)# cache"), "a \\v cache");
@@ -39,7 +39,7 @@ TEST_F(Directives, ConditionNonNulleSurLeTexteAutresFormesVraiesEtNumerosDePage)
             "\\v0 2-1|\\v0 2-2|\\v0 2bis-3");
 }
 
-TEST_F(Directives, ConditionSurUneSerieLueEnColonneSeptEtFormatee) {
+TEST_F(Directives, AConditionOnASeriesReadsColumnSevenFormatted) {
   const std::string code = "si(RES.DON+RES-12<>0)alors:adresse";
   // {column 7 of record 12, decimals of the record, value}: "0,00" is no "0".
   const std::tuple<float, std::string, std::string> cas[] = {
@@ -55,7 +55,7 @@ TEST_F(Directives, ConditionSurUneSerieLueEnColonneSeptEtFormatee) {
   EXPECT_EQ(Valeur("si(ABSENT.DON+AB-3<>0)alors:adresse"), "\\v");
 }
 
-TEST_F(Directives, AlorsManquant) {
+TEST_F(Directives, AMissingAlorsIsReported) {
   EXPECT_EQ(Valeur("si(1<>0)adresse"), Cp("< Portion de code erronée dans le modèle de document >"));
   EXPECT_EQ(resultat, -1);
   const auto m = Boite();
@@ -69,7 +69,7 @@ TEST_F(Directives, AlorsManquant) {
   EXPECT_NE(Boite().texte.find("\"si(" + std::string(47, 'x') + "...\""), std::string::npos);
 }
 
-TEST_F(Directives, InfoBulleEcriteDuCodeLitteral) {
+TEST_F(Directives, ATooltipIsWrittenFromTheLiteralCode) {
   const std::string ancre = "{\\fs22 {\\*\\atrfstart 47317183}";
   EXPECT_EQ(Interpreter("Voir #tvl(INFO:CODE1:11:Le_titre:Texte_de_l'aide:le_rep\xE8re)# ici."),
             "Voir " + ancre + "le rep\xE8re}{\\cs15\\v\\fs22 {\\*\\atrfend 47317183}{\\*\\atnid CODE1}"
@@ -92,7 +92,7 @@ TEST_F(Directives, InfoBulleEcriteDuCodeLitteral) {
   EXPECT_EQ(texte, "\\~x");
 }
 
-TEST_F(Directives, DonneesIni) {
+TEST_F(Directives, IniDataIsReadBySectionAndKey) {
   session.RepNorvane = temporaire.Chemin();
   construction::EcrireIni(temporaire / "donnees.INI", {{Cp("Général"), {{"Cle", "valeur generale"}, {"Prix", "12,5"}}},
                                                        {"Sect", {{"Cle", "valeur de Sect"}}},
@@ -112,7 +112,7 @@ TEST_F(Directives, DonneesIni) {
   EXPECT_EQ(messages.questions[0].boutons, Boutons::Ok);
 }
 
-TEST_F(Directives, DixHuitFormatsDeDateEtRienAutour) {
+TEST_F(Directives, EighteenDateFormatsAndNothingAroundThem) {
   // Sunday 22 November 2026, 14:05:09.
   const char* attendus[] = {"dimanche 22 novembre 2026", "22 novembre 2026", "22-nov.-26", "22/11/2026",
                             "22/11/2026", "22 - 11 - 2026", "22-11-26", "22/11/26", "22/11/2026", "22/11", "22",
@@ -129,7 +129,7 @@ TEST_F(Directives, DixHuitFormatsDeDateEtRienAutour) {
   Valeurs({{"date(2)", "09-d\xE9" "c.-26"}, {"date(11)", "09/12/2026 00:00:00"}});
 }
 
-TEST_F(Directives, CodesDUneCellule) {
+TEST_F(Directives, ACellInterpretsItsPercentCodesOnly) {
   Info().NomExploitation = "DUPONT";
   Info().Commune = "%tvl(nomExploit)%";
   generation.etat.CodeCourant = "#tvl(tabx)#";
@@ -150,7 +150,7 @@ TEST_F(Directives, CodesDUneCellule) {
 const std::string kTeteJpeg("\xFF\xD8\xFF\xE0\x00\x04JF"
                             "\xFF\xC0\x00\x0B\x08\x01\xE0\x02\x80\x01\x01\x11\x00\xFF\xD9", 23);
 
-TEST_F(Directives, ImagesPngEtJpegAvecLeurTailleEnPixelsEtEnTwips) {
+TEST_F(Directives, PngAndJpegPicturesCarryTheirSizeInPixelsAndTwips) {
   construction::DessinPng dessin;
   dessin.largeur = 20;
   dessin.hauteur = 10;

@@ -66,7 +66,7 @@ class Formules : public BancInterpreteur {
   LignesEssai lignes;
 };
 
-TEST_F(Formules, CodesFormule) {
+TEST_F(Formules, FormulaCodesGiveTheirFormattedValue) {
   for (const auto& [code, attendu] : Cas{
            {"formule:2a:LG(RES-17)+LG(RES-18):0", "1\xA0" "501"},  // year 2, no decimals
            {"formule:1a:LG(RES-17)+LG(RES-18):2", "1\xA0" "120,00"},
@@ -81,7 +81,7 @@ TEST_F(Formules, CodesFormule) {
   EXPECT_TRUE(messages.messages.empty());
 }
 
-TEST_F(Formules, CalculsSurLesSeries) {
+TEST_F(Formules, FormulasCalculateOnTheSeries) {
   Calculs({{"2/3:3", 1, "0,667"}, {"2/3:", 1, "1"}, {"2/3", 1, "0,67"},  // decimals behind the second ":"
            {"LG(RES-17!A-1)", 3, "1\xA0" "200,4"},                      // the year before
            {"LG(RES-17)+1", 14, "1"}, {"LG(RES-17!A20)+1", 2, "1"},     // years outside the record read 0
@@ -93,7 +93,7 @@ TEST_F(Formules, CalculsSurLesSeries) {
   EXPECT_TRUE(messages.questions.empty());
 }
 
-TEST_F(Formules, RemplacementsEtLibellesPourLAffichage) {
+TEST_F(Formules, ReferencesAreReplacedByValuesOrByLabelsForDisplay) {
   Remplacements({{"10-LG(RES-20)", 1, "10--5"}, {"LG(RES-18)_*_2", 1, "20 * 2"}, {"LG(AL-1)", -1, "Vaches"},
                  {"LG(RES-17)+LG(RES-18!A-1)", -1, "Produit brut|\x80+Charges|\x80"},
                  {"LG(RES-19)", -2, "Enregistrement n\xB0" "19 de RES"},
@@ -106,7 +106,7 @@ TEST_F(Formules, RemplacementsEtLibellesPourLAffichage) {
   EXPECT_FLOAT_EQ(ValeurLigne(generation, valeur, 2), 1200.4f);
 }
 
-TEST_F(Formules, LignesDuTableauEnMain) {
+TEST_F(Formules, LinesOfTheTableInHandAreRead) {
   Calculs({{"LG5+1", 2, "1"}});  // no table: no line
   EXPECT_EQ(RemplacerReferences(generation, "LG5", -1), "");
   generation.lignes = &lignes;
@@ -120,7 +120,7 @@ TEST_F(Formules, LignesDuTableauEnMain) {
   EXPECT_TRUE(messages.questions.empty());
 }
 
-TEST_F(Formules, AnneePrecedenteDansUnTableauQuiDebuteEnAnneeUn) {
+TEST_F(Formules, ThePreviousYearInATableStartingInYearOneIsWarnedAbout) {
   lignes.anneeUn = true;
   generation.lignes = &lignes;
   Calculs({{"LG(RES-17!A-1)", 3, "1\xA0" "300"}});  // the year stays
@@ -133,7 +133,7 @@ TEST_F(Formules, AnneePrecedenteDansUnTableauQuiDebuteEnAnneeUn) {
             "pour un tableau qui débute déjà à l'année début ! Modifier le modèle.");
 }
 
-TEST_F(Formules, CodeMalRenseigneBoiteEtTexteDeRemplacement) {
+TEST_F(Formules, AMalformedCodeGivesABoxAndAReplacementText) {
   EXPECT_EQ(ValeurCodeFormule(generation, "formule:2aLG(RES-17)"), kNonCalculee);
   const auto m = Boite();
   EXPECT_EQ(m.titre, kErreurDetectee);
@@ -152,7 +152,7 @@ TEST_F(Formules, CodeMalRenseigneBoiteEtTexteDeRemplacement) {
   EXPECT_NE(Boite().texte.find("\"formule:année\""), std::string::npos);
 }
 
-TEST_F(Formules, SansDossierBoiteEtZero) {
+TEST_F(Formules, WithoutADossierABoxIsShownAndTheValueIsZero) {
   session.NomDossier[0] = "  ";
   Calculs({{"LG(RES-17)+1", 1, "1"}});
   EXPECT_EQ(Boite().titre, "Dossier Tervol non sélectionné !");
@@ -161,7 +161,7 @@ TEST_F(Formules, SansDossierBoiteEtZero) {
   EXPECT_EQ(texte.substr(texte.size() - std::min(texte.size(), fin.size())), fin);
 }
 
-TEST_F(Formules, LignesRefuseesQuandAucunTableauNePeutExister) {
+TEST_F(Formules, LinesAreRefusedWhereNoTableCanExist) {
   generation.lignes = &lignes;
   Remplacements({{"LG5+1", -2, "+1"}});
   EXPECT_EQ(Boite().titre, "Formule erronée. Insertion impossible.");
@@ -171,7 +171,7 @@ TEST_F(Formules, LignesRefuseesQuandAucunTableauNePeutExister) {
             "en sélectionnant vos séries de données directement dans l'arbre de choix ci-contre.");
 }
 
-TEST_F(Formules, ReferenceMalFormeeArreteLeRemplacement) {
+TEST_F(Formules, AMalformedReferenceStopsTheReplacement) {
   Remplacements({{"LG(RES-17)+LG(RES-18", 2, "1200.4+LG(RES-18"}});
   auto m = Boite();
   EXPECT_EQ(m.titre, "Tableau incorrect dans le modèle de document.");
@@ -187,7 +187,7 @@ TEST_F(Formules, ReferenceMalFormeeArreteLeRemplacement) {
             "et le numéro d'enregistrement.");
 }
 
-TEST_F(Formules, LGSeulBoiteEtFormuleTelleQuelle) {
+TEST_F(Formules, ALoneLGGivesABoxAndTheFormulaAsItStands) {
   generation.lignes = &lignes;
   for (const auto& [formule, attendu] : Cas{{"LG1+LG", "100+LG"}, {"LG1+LG+2", "100+LG+2"},
                                             {"LG1+LGx", "100+LGx"}, {"LG1+LG_2", "100+LG 2"}}) {
@@ -198,7 +198,7 @@ TEST_F(Formules, LGSeulBoiteEtFormuleTelleQuelle) {
   }
 }
 
-TEST_F(Formules, FormulesAuHasardDonnentUnNombre) {
+TEST_F(Formules, RandomFormulasGiveANumber) {
   const std::string_view morceaux[] = {"LG", "LG(", "RES", "-", "17", "!A", "-1", ")", "(", "+", "*", "/", "^", ":",
                                        "_", "a", "2", "0", ".", ",", "e", "formule:", "\xB2", "&", "|", " ", "AL",
                                        std::string_view("\0", 1), "\xFF", "9999999"};
@@ -222,7 +222,7 @@ TEST_F(Formules, FormulesAuHasardDonnentUnNombre) {
   }
 }
 
-TEST(EvaluerExpression, ArithmetiqueDUneCellule) {
+TEST(EvaluerExpression, ArithmeticOfACellIsEvaluated) {
   const std::pair<const char*, double> cas[] = {
       // "." is the decimal mark; a comma is none (the caller turns it into a point).
       {"42", 42}, {"12.75", 12.75}, {".5", 0.5}, {"5.", 5}, {"1e+20", 1e20}, {"2.5E-3", 0.0025}, {"12,5", 0},
@@ -237,7 +237,7 @@ TEST(EvaluerExpression, ArithmetiqueDUneCellule) {
   for (const auto& [texte, attendu] : cas) EXPECT_DOUBLE_EQ(EvaluerExpression(texte), attendu) << texte;
 }
 
-TEST(EvaluerExpression, CeQuiNeSeCalculePasVautZeroSansPlantage) {
+TEST(EvaluerExpression, WhatCannotBeComputedIsZeroWithoutACrash) {
   for (const char* texte : {"", "   ", "1/0", "5/(2-2)", "0^0", "0^-1", "(-8)^(1/3)", "1e308*10", "1e999",
                             "(1+2", "1+2)", "()", "1+", "*2", "abc", "1+x", "2 ^", "1e", "1e+", "1..2",
                             "3\xB2", "1&2", "1|2", "nan", "inf"}) {

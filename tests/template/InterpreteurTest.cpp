@@ -16,7 +16,7 @@ class Interpreteur : public BancInterpreteur {
   void SetUp() override { Info().NomExploitation = "DUPONT Jean                   "; }
 };
 
-TEST_F(Interpreteur, ValeurNettoyeeRogneeOuInsecable) {
+TEST_F(Interpreteur, AValueIsCleanedTrimmedOrANoBreakSpace) {
   EXPECT_EQ(Interpreter("avant #tvl(nomExploit)# apres"), "avant DUPONT Jean apres");
   EXPECT_EQ(resultat, -1);
   Valeurs({{" nomExploit ", "DUPONT Jean"}, {"nom{\\b Exploit}", "DUPONT Jean"}, {"nom\r\nExploit", "DUPONT Jean"}});
@@ -25,7 +25,7 @@ TEST_F(Interpreteur, ValeurNettoyeeRogneeOuInsecable) {
   EXPECT_TRUE(messages.messages.empty());
 }
 
-TEST_F(Interpreteur, MarquesDeDebut) {
+TEST_F(Interpreteur, StartMarksAreFoundWhateverTheirCase) {
   Info().Commune = "Rennes #tvl(nomExploit)#";
   for (const auto& [texte, attendu] : Cas{
            {"#TVL(nomExploit)#", "DUPONT Jean"},  // the first mark is found whatever its case
@@ -36,7 +36,7 @@ TEST_F(Interpreteur, MarquesDeDebut) {
   EXPECT_TRUE(messages.messages.empty());
 }
 
-TEST_F(Interpreteur, CodeInconnuResteTelQuelAvecSaBoite) {
+TEST_F(Interpreteur, AnUnknownCodeStaysAsItIsWithItsBox) {
   // Words are case-sensitive, numbered families exact.
   const std::string inconnus = "#tvl(NOMEXPLOIT)##tvl(nomAss11)##tvl(nomAss01)##tvl(nomAss0)##tvl(modeCom7)#"
                                "#tvl(date10)#";
@@ -53,7 +53,7 @@ TEST_F(Interpreteur, CodeInconnuResteTelQuelAvecSaBoite) {
   EXPECT_EQ(Boite().texte, "Le code \"a-b\" est inconnu de l'interpréteur Norvane.");
 }
 
-TEST_F(Interpreteur, MarqueDeFinManquanteSignaleeAChaqueDebut) {
+TEST_F(Interpreteur, AMissingEndMarkIsReportedAtEachStart) {
   EXPECT_EQ(Interpreter("#tvl(nomExploit"), "#tvl(nomExploit");
   EXPECT_EQ(Boite().titre, kErreurDetectee);
   EXPECT_EQ(Boite().texte,
@@ -62,7 +62,7 @@ TEST_F(Interpreteur, MarqueDeFinManquanteSignaleeAChaqueDebut) {
   EXPECT_EQ(messages.messages.size(), 3u);
 }
 
-TEST_F(Interpreteur, InsererValeurRendLaPositionDerriereLaValeur) {
+TEST_F(Interpreteur, InsertingAValueGivesThePositionBehindIt) {
   std::string texte = "ab#tvl(x)#cd";
   EXPECT_EQ(InsererValeur(generation, texte, 2, 8, "  val  ", true), 5u);
   EXPECT_EQ(texte, "abvalcd");
@@ -83,7 +83,7 @@ class Ports : public PortTableaux, public PortGraphiques {
   }
 };
 
-TEST_F(Interpreteur, CodesDeTableauEtDeGraphiqueVontAuxPorts) {
+TEST_F(Interpreteur, TableAndGraphCodesGoToTheirPorts) {
   const std::string codes = "#tvl(taba2p1)# #tvl(gph(T;1))# #tvl(culture1taba2)#";
   EXPECT_EQ(Interpreter(codes), codes);  // no port: left as they stand
   EXPECT_TRUE(messages.messages.empty());
@@ -101,7 +101,7 @@ TEST_F(Interpreteur, CodesDeTableauEtDeGraphiqueVontAuxPorts) {
   EXPECT_EQ(ports.recu, "");
 }
 
-TEST_F(Interpreteur, EtatDuCodeEnCoursEtFormeAnnoteeDormante) {
+TEST_F(Interpreteur, TheStateOfTheCurrentCodeAndTheDormantAnnotatedForm) {
   generation.etat.TransfoPerenne = true;
   Interpreter("#tvl( nom{\\b Exploit} )#");
   EXPECT_EQ(generation.etat.CodeCourant, "#tvl( nom{\\b Exploit} )#");  // the literal, before cleaning
@@ -126,7 +126,7 @@ class Explication : public BancInterpreteur {
   }
 };
 
-TEST_F(Explication, TexteEtExempleDeChaqueSorteDeCode) {
+TEST_F(Explication, TextAndExampleOfEachKindOfCode) {
   const std::string exemple =
       "Par exemple, pour le dossier Tervol actuellement lié à Norvane, le résultat du code serait ";
   const std::string tableau = "taba2p1cr0;larg2000;larg7200([280;120][Produit;5006;10;1;0;0;0])";
@@ -170,12 +170,12 @@ TEST_F(Explication, TexteEtExempleDeChaqueSorteDeCode) {
   }
 }
 
-TEST_F(Explication, CodeInconnuSeulementLErreur) {
+TEST_F(Explication, AnUnknownCodeGivesOnlyTheError) {
   Interpreter("#tvl(inconnu)#", true);
   EXPECT_EQ(Boite().titre, kErreurDetectee);
 }
 
-TEST(NettoyerCode, ListeOrdonneePuisRestesDeSignets) {
+TEST(NettoyerCode, AnOrderedListThenBookmarkLeftovers) {
   for (const auto& [code, attendu] : Cas{
            {"{\\plain\\fs24\\b nom}{\\i Exploit}", "nomExploit"}, {"nom\r\n\tExploit\x08", "nomExploit"},
            {"\\lang2057 nom\\par Exploit", "nomExploit"}, {"{\\B\\I\\PLAIN nomExploit}", "nomExploit"},
@@ -201,7 +201,7 @@ TEST(NettoyerCode, ListeOrdonneePuisRestesDeSignets) {
   EXPECT_EQ(masse, "nomExploit");
 }
 
-TEST(EnleverMarque, UnChiffreParAppel) {
+TEST(EnleverMarque, OneDigitPerCall) {
   std::string texte = "xMARQ12y";
   EXPECT_EQ(EnleverMarque(texte, "MARQ"), 1);
   EXPECT_EQ(texte, "xMARQ2y");
@@ -210,7 +210,7 @@ TEST(EnleverMarque, UnChiffreParAppel) {
   EXPECT_EQ(EnleverMarque(texte, "MARQ"), -1);
 }
 
-TEST_F(Interpreteur, TextesAuHasardEtCodesTresLongsNiPlantageNiBoucle) {
+TEST_F(Interpreteur, RandomTextsAndVeryLongCodesNeitherCrashNorLoop) {
   const char* const morceaux[] = {"#tvl(", ")#", "#TVL(", "%tvl(", ")%", "si(", ")alors:", "<>0", "INFO:", ":", "INI:",
                                   "date(", "ORGA", "-", "+", "numPage2", "saut2page", "\\par ", "{\\*\\bkmkstart DDE_LINK1}",
                                   "kmk", "endOLE_LINK9", "\\'80", "formule:", "tab", "gph(", "nomAss", "date0", "_", "{"};

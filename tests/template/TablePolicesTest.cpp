@@ -9,7 +9,7 @@
 namespace norvane {
 namespace {
 
-TEST(TablePolices, NomsNumerosEtRepli) {
+TEST(TablePolices, NamesAndNumbersMatchWithArialAsTheFallback) {
   EXPECT_EQ(NomPolice(5000), "Abadi MT Condensed Light");
   EXPECT_EQ(NomPolice(5156), "Wonton ICG");
   for (int hors : {4999, 5157, 0, -5006}) EXPECT_EQ(NomPolice(hors), "Arial") << hors;
@@ -20,7 +20,7 @@ TEST(TablePolices, NomsNumerosEtRepli) {
   for (const char* nom : {"Unknown Sans", "", "times new roman"}) EXPECT_EQ(NumeroPolice(nom), "5006") << nom;
 }
 
-TEST(EtendrePolices, EntreesDerriereLeMotAvantCellesDuModele) {
+TEST(EtendrePolices, EntriesGoBehindTheWordBeforeThoseOfTheTemplate) {
   std::string texte = "{\\rtf1\\ansi{\\fonttbl{\\f0\\froman Times;}}\\f0 Texte}";
   EtendrePolices(texte);
   EXPECT_EQ(texte.find("{\\f5000\\fnil Abadi MT Condensed Light;}{\\f5001\\fnil AGaramond;}"), 20u);
@@ -39,7 +39,7 @@ TEST(EtendrePolices, EntreesDerriereLeMotAvantCellesDuModele) {
   EXPECT_EQ(texte, "{\\rtf1\\ansi Bonjour #tvl(nomExploit)#}");
 }
 
-TEST(EtendreCouleurs, SeizeCouleursDerriereCellesDuModeleQuiSontComptees) {
+TEST(EtendreCouleurs, SixteenColoursGoBehindTheTemplatesOwnWhichAreCounted) {
   const std::string couleurs =
       "\\red0\\green0\\blue0;\\red0\\green0\\blue255;\\red0\\green255\\blue255;\\red0\\green255\\blue0;"
       "\\red255\\green0\\blue255;\\red255\\green0\\blue0;\\red255\\green255\\blue0;\\red255\\green255\\blue255;"

@@ -18,7 +18,7 @@ uint32_t PetitBout(const std::string& d, std::size_t position, std::size_t octet
   return valeur;
 }
 
-TEST(DessinGraphiqueQt, GroupePngALaTailleDuGraphique) {
+TEST(DessinGraphiqueQt, ThePngGroupHasTheGraphSize) {
   test::DossierTemporaire dossier;
   DessinGraphiqueQt dessin(dossier / "ModelGraph");
   const ModeleGraphique modele = test::ModeleEssai(kBarres2D);
@@ -28,7 +28,7 @@ TEST(DessinGraphiqueQt, GroupePngALaTailleDuGraphique) {
   EXPECT_EQ(groupe.back(), '}');
 }
 
-TEST(DessinGraphiqueQt, LaisseUnBmpLisible) {
+TEST(DessinGraphiqueQt, LeavesAReadableBmp) {
   test::DossierTemporaire dossier;
   DessinGraphiqueQt dessin(dossier / "ModelGraph", 100);
   ModeleGraphique modele = test::ModeleEssai(kCourbes2D);

@@ -96,7 +96,7 @@ const Cas kCas[] = {
 
 class DessinParType : public testing::TestWithParam<Cas> {};
 
-TEST_P(DessinParType, ResteProcheDeSaReference) {
+TEST_P(DessinParType, StaysCloseToItsReference) {
   const Cas& cas = GetParam();
   ModeleGraphique modele = ModeleEssai(cas.type);
   if (cas.reglage) cas.reglage(modele);

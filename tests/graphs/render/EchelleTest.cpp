@@ -11,7 +11,7 @@ struct CasEchelle {
   int decimales;
 };
 
-TEST(Echelle, PasRondsQuiContiennentLesValeursEtZero) {
+TEST(Echelle, RoundStepsHoldTheValuesAndZero) {
   const CasEchelle cas[] = {
       {120000, 205000, 0, 250000, 50000, 0},
       {-35, 80, -50, 100, 25, 0},
@@ -31,14 +31,14 @@ TEST(Echelle, PasRondsQuiContiennentLesValeursEtZero) {
   }
 }
 
-TEST(Echelle, SansZeroPourDesAnnees) {
+TEST(Echelle, NoZeroForYears) {
   const Echelle e = EchelleRonde(2025, 2029, 5, false);
   EXPECT_DOUBLE_EQ(e.min, 2025);
   EXPECT_DOUBLE_EQ(e.max, 2029);
   EXPECT_EQ(e.Graduations().size(), 5u);
 }
 
-TEST(Echelle, LibellesEnMarquesFrancaises) {
+TEST(Echelle, LabelsUseFrenchMarks) {
   EXPECT_EQ(LibelleNombre(1234567, 0), QString::fromUtf8("1\u00a0234\u00a0567"));
   EXPECT_EQ(LibelleNombre(-2.5, 1), QStringLiteral("-2,5"));
   EXPECT_EQ(LibelleNombre(1e-12, 2), QStringLiteral("0,00"));

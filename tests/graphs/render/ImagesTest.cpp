@@ -50,7 +50,7 @@ const std::string kGif("GIF89a\x01\x00\x01\x00\x80\x00\x00\xff\xff\xff\x00\x00\x
                        "!\xf9\x04\x01\x00\x00\x00\x00,\x00\x00\x00\x00\x01\x00\x01\x00\x00\x02\x02\x44\x01\x00;",
                        43);
 
-TEST(ImagesQt, ChaqueFormatATaVraieTaille) {
+TEST(ImagesQt, EachFormatHasItsTrueSize) {
   test::DossierTemporaire dossier;
   dossier.Ecrire("logo.png", Encoder(Logo(), "PNG"));
   dossier.Ecrire("logo.bmp", Encoder(Logo(), "BMP"));
@@ -75,7 +75,7 @@ TEST(ImagesQt, ChaqueFormatATaVraieTaille) {
   }
 }
 
-TEST(ImagesQt, LeGroupePorteUnPngLisible) {
+TEST(ImagesQt, TheGroupCarriesAReadablePng) {
   test::DossierTemporaire dossier;
   dossier.Ecrire("logo.bmp", Encoder(Logo(), "BMP"));
   const std::string groupe = ImagesQt().ImageVersRtf(dossier / "logo.bmp");
@@ -87,7 +87,7 @@ TEST(ImagesQt, LeGroupePorteUnPngLisible) {
   EXPECT_EQ(relue.pixelColor(10, 10), QColor(20, 90, 160));
 }
 
-TEST(ImagesQt, FichierAbsentOuAbimeDonneRien) {
+TEST(ImagesQt, AMissingOrDamagedFileGivesNothing) {
   test::DossierTemporaire dossier;
   dossier.Ecrire("vide.png", "");
   dossier.Ecrire("texte.bmp", "ceci n'est pas une image");
