@@ -16,19 +16,29 @@ namespace {
 
 const std::string kCasse = std::string(NORVANE_SOURCE_DIR) + "/exemple/modeles/Verification/Casse.tvm";
 
-TEST(Verification, EveryExampleTemplateChecksClean) {
+// The example templates and the stock templates of the Cerfa report.
+std::vector<std::string> ModelesInstalles() {
+  std::vector<std::string> modeles;
+  for (const char* dossier : {"/Norvane/ModlDocs", "/Norvane/PDE"}) {
+    for (const auto& entree : std::filesystem::directory_iterator(std::string(NORVANE_ARBRE) + dossier)) {
+      if (entree.path().extension() == ".tvm") modeles.push_back(entree.path().string());
+    }
+  }
+  return modeles;
+}
+
+TEST(Verification, EveryExampleAndStockTemplateChecksClean) {
   std::size_t modeles = 0;
-  for (const auto& entree : std::filesystem::directory_iterator(std::string(NORVANE_ARBRE) + "/Norvane/ModlDocs")) {
-    if (entree.path().extension() != ".tvm") continue;
+  for (const std::string& chemin : ModelesInstalles()) {
     ++modeles;
     const std::string avecDossier = " " + Guillemets(std::string(NORVANE_ARBRE) + "/Dossier/MARTIN_PAUL.TVL");
     for (const std::string& dossier : {std::string(), avecDossier}) {
-      const Execution e = Lancer("VERIFIER " + Guillemets(entree.path().string()) + dossier);
-      EXPECT_EQ(e.statut, 0) << entree.path() << dossier << "\n" << e.sortie;
-      EXPECT_NE(e.sortie.find(" 0 erreur(s).\n"), std::string::npos) << entree.path();
+      const Execution e = Lancer("VERIFIER " + Guillemets(chemin) + dossier);
+      EXPECT_EQ(e.statut, 0) << chemin << dossier << "\n" << e.sortie;
+      EXPECT_NE(e.sortie.find(" 0 erreur(s).\n"), std::string::npos) << chemin;
     }
   }
-  EXPECT_GE(modeles, 5u);
+  EXPECT_GE(modeles, 5u + 17u);
 }
 
 TEST(Verification, TheBrokenExampleGivesItsKeptReport) {
@@ -59,10 +69,8 @@ TEST(Verification, TheGeneratorSpeaksExactlyWhereTheCheckerFindsFaults) {
   const std::string gaec = Guillemets(std::string(NORVANE_ARBRE) + "/Dossier/GAEC_DES_TILLEULS.TVL");
   const std::string martin = Guillemets(std::string(NORVANE_ARBRE) + "/Dossier/MARTIN_PAUL.TVL");
   const std::string dossier = " " + gaec + " --comparer=" + gaec + " --comparer=" + martin;
-  std::vector<std::string> modeles = {kCasse};
-  for (const auto& entree : std::filesystem::directory_iterator(std::string(NORVANE_ARBRE) + "/Norvane/ModlDocs")) {
-    if (entree.path().extension() == ".tvm") modeles.push_back(entree.path().string());
-  }
+  std::vector<std::string> modeles = ModelesInstalles();
+  modeles.push_back(kCasse);
   DossierTemporaire d;
   for (const std::string& modele : modeles) {
     const Execution v = Lancer("VERIFIER " + Guillemets(modele) + dossier + " --format=json");
