@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "frame/OutilsFichiers.h"
+#include "frame/EcritureAtomique.h"
 #include "frame/ProfilIni.h"
 #include "frame/clsINI.h"
 

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "graphiques/DescriptionGraphiques.h"
 
 int main(int argc, char** argv) {

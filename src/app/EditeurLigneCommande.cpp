@@ -7,7 +7,6 @@
 #include "drivers/PiloteOpenOffice.h"
 #include "frame/Editeur.h"
 #include "frame/Encodage.h"
-#include "frame/OutilsFichiers.h"
 #include "frame/RechercheEditeur.h"
 #include "frame/Texte.h"
 #ifdef NORVANE_AVEC_LIBREOFFICE

@@ -8,7 +8,7 @@
 #include "app/EditeurLigneCommande.h"
 #include "app/Verbes.h"
 #include "frame/Encodage.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 
 namespace norvane {
 namespace {

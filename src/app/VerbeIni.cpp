@@ -4,7 +4,7 @@
 #include "app/Travail.h"
 #include "app/Verbes.h"
 #include "frame/LigneCommande.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "template/Generateur.h"
 

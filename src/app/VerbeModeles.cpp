@@ -13,7 +13,7 @@
 #include "app/ModelesGraphiques.h"
 #include "app/Verbes.h"
 #include "frame/Encodage.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "study/Catalogues.h"
 #include "tables/ArbreTableaux.h"

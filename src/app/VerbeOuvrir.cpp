@@ -6,7 +6,7 @@
 #include "app/Verbes.h"
 #include "frame/Encodage.h"
 #include "frame/LigneCommande.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "study/DossierGeneral.h"
 

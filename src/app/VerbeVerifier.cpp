@@ -4,7 +4,7 @@
 
 #include "app/Travail.h"
 #include "app/Verbes.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "verification/Rapport.h"
 #include "verification/VerificationModele.h"
 

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 
 namespace norvane {
 namespace {

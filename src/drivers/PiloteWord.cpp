@@ -1,6 +1,6 @@
 #include "drivers/PiloteWord.h"
 
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 
 namespace norvane {

@@ -1,6 +1,6 @@
 #include "drivers/PiloteWordPro.h"
 
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 
 namespace norvane {
 namespace {

@@ -13,7 +13,8 @@
 #include <string_view>
 
 #include "frame/AppelsFichier.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/EcritureAtomique.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 
 namespace norvane {

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 
 namespace norvane {

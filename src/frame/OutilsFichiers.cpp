@@ -2,6 +2,7 @@
 // the resolver (ResolutionChemins.cpp), so names are matched without regard to
 // case as on the systems the installations come from.
 #include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 
 #include <dirent.h>
 #include <sys/stat.h>

@@ -33,7 +33,9 @@
 #include <type_traits>
 
 #include "frame/LecteurBinaire.h"
+#include "frame/EcritureAtomique.h"
 #include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 
 namespace norvane {

@@ -1,6 +1,7 @@
 #include "frame/ProfilIni.h"
 
-#include "frame/OutilsFichiers.h"
+#include "frame/EcritureAtomique.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 
 namespace norvane {

@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "frame/Encodage.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 
 namespace norvane {

@@ -4,6 +4,7 @@
 // sort without regard to case, SaveKey answers false.
 #include "frame/clsINI.h"
 
+#include "frame/EcritureAtomique.h"
 #include "frame/OutilsFichiers.h"
 #include "frame/ProfilIni.h"
 #include "frame/Texte.h"

@@ -4,6 +4,7 @@
 
 #include "frame/Encodage.h"
 #include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "study/Series.h"
 

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "frame/EcritureAtomique.h"
 #include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "graphs/CodeGraphique.h"
 

@@ -8,7 +8,7 @@
 
 #include "frame/Encodage.h"
 #include "frame/FormatNombre.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "study/DossierGeneral.h"
 #include "study/FichierSeries.h"

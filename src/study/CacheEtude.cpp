@@ -3,7 +3,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "study/FichierSeries.h"
 
 namespace norvane {

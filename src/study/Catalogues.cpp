@@ -15,6 +15,7 @@
 
 #include "frame/Disposition.h"
 #include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 
 namespace norvane {

@@ -40,7 +40,7 @@
 
 #include "frame/Disposition.h"
 #include "frame/LecteurBinaire.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "study/Series.h"
 

@@ -12,7 +12,7 @@
 #include <fstream>
 
 #include "frame/Disposition.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 
 namespace norvane {

@@ -19,7 +19,7 @@
 #include "study/ParamLog.h"
 
 #include "frame/Disposition.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 
 namespace norvane {
 namespace {

@@ -5,6 +5,7 @@
 #include "frame/Encodage.h"
 #include "frame/FormatNombre.h"
 #include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "study/TexteEtude.h"
 

@@ -66,7 +66,9 @@
 #include "frame/Disposition.h"
 #include "frame/Encodage.h"
 #include "frame/LecteurBinaire.h"
+#include "frame/EcritureAtomique.h"
 #include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 
 namespace norvane {

@@ -3,7 +3,9 @@
 #include <optional>
 
 #include "frame/Encodage.h"
+#include "frame/EcritureAtomique.h"
 #include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "tables/CodeTableau.h"
 #include "tables/Crochets.h"

@@ -2,7 +2,7 @@
 
 #include "frame/Encodage.h"
 #include "frame/FormatNombre.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "study/Series.h"
 #include "study/TexteEtude.h"

@@ -36,7 +36,7 @@
 #include <system_error>
 
 #include "frame/Encodage.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "template/Directives.h"
 #include "template/InterpreteurInterne.h"

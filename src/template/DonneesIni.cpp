@@ -5,7 +5,7 @@
 #include "template/DonneesIni.h"
 
 #include "frame/Encodage.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/clsINI.h"
 #include "template/Directives.h"
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "template/Directives.h"
 #include "template/ImageRtf.h"

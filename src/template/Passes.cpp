@@ -5,7 +5,7 @@
 
 #include "frame/Encodage.h"
 #include "frame/GardeEcriture.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 
 namespace norvane {

@@ -13,7 +13,7 @@
 #include <sstream>
 
 #include "app/Programme.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "support/DossierTemporaire.h"
 #include "tables/CodeTableau.h"

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "app/Programme.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "support/DossierTemporaire.h"
 
 namespace norvane::test {

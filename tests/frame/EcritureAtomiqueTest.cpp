@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "frame/AppelsFichier.h"
-#include "frame/OutilsFichiers.h"
+#include "frame/EcritureAtomique.h"
 #include "frame/Parametres.h"
 #include "support/DossierTemporaire.h"
 

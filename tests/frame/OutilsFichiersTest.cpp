@@ -1,4 +1,6 @@
+#include "frame/EcritureAtomique.h"
 #include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 
 #include <gtest/gtest.h>
 

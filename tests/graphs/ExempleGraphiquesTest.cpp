@@ -4,7 +4,7 @@
 #include <fstream>
 #include <set>
 
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "graphiques/DescriptionGraphiques.h"
 #include "graphs/CodeGraphique.h"

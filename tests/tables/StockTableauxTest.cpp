@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "support/DossierTemporaire.h"
 #include "support/PortsScriptes.h"
 #include "support/Resultats.h"

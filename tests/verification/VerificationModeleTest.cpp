@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "study/DossierGeneral.h"
 #include "support/PortsScriptes.h"
 #include "template/Interpreteur.h"

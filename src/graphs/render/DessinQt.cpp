@@ -1,6 +1,8 @@
 #include "graphs/render/DessinQt.h"
 
+#include "frame/EcritureAtomique.h"
 #include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "graphs/render/EncodageImage.h"
 
 namespace norvane {

@@ -1,6 +1,6 @@
 #include "graphs/render/Fabriques.h"
 
-#include "frame/OutilsFichiers.h"
+#include "frame/EcritureAtomique.h"
 #include "graphs/render/DessinQt.h"
 #include "graphs/render/EncodageImage.h"
 #include "graphs/render/ImagesQt.h"

@@ -2,7 +2,7 @@
 
 #include <QImage>
 
-#include "frame/OutilsFichiers.h"
+#include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"
 #include "graphs/render/ApplicationQt.h"
 #include "graphs/render/EncodageImage.h"
