@@ -5,7 +5,9 @@
 #include <cstdint>
 #include <string>
 
+#include "template/Evaluateur.h"
 #include "template/Formules.h"
+#include "template/References.h"
 
 namespace {
 

@@ -14,12 +14,12 @@
 //
 // The scan is one pass over the text, brackets nest at most kProfondeurMax
 // deep, and signs are read in a loop, so no input recurses without bound.
+#include "template/Evaluateur.h"
+
 #include <charconv>
 #include <cmath>
 #include <optional>
 #include <string_view>
-
-#include "template/Formules.h"
 
 namespace norvane {
 namespace {

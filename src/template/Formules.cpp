@@ -1,5 +1,6 @@
 // The code "formule:<year>a:<expression>[:<decimals>]" and the calculator
 // behind it: references replaced, then the arithmetic, then the number's text.
+#include "template/Evaluateur.h"
 #include "template/Formules.h"
 
 #include <algorithm>
@@ -9,6 +10,7 @@
 #include "frame/Encodage.h"
 #include "frame/FormatNombre.h"
 #include "frame/Texte.h"
+#include "template/References.h"
 
 namespace norvane {
 namespace {

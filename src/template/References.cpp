@@ -6,13 +6,15 @@
 // The scan moves forward past each replacement, so a label that itself holds
 // "LG" is never taken for a reference, the loop always ends, and the work is
 // linear in the length of the formula.
+#include "template/References.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <optional>
 
 #include "frame/Texte.h"
-#include "template/Formules.h"
+#include "template/SeriesFormules.h"
 
 namespace norvane {
 namespace {

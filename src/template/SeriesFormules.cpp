@@ -2,13 +2,14 @@
 // the calculation, their label for the display of a formula. <file> is the
 // .DON name without extension, read in the folder of dossier slot 0; "AL"
 // stands for the file of the free activity in hand.
+#include "template/SeriesFormules.h"
+
 #include <optional>
 #include <string>
 
 #include "frame/Encodage.h"
 #include "frame/Texte.h"
 #include "study/TexteEtude.h"
-#include "template/Formules.h"
 
 namespace norvane {
 namespace {

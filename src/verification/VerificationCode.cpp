@@ -1,10 +1,10 @@
+#include "template/SeriesFormules.h"
 #include "verification/VerificationCode.h"
 
 #include "frame/Encodage.h"
 #include "frame/Texte.h"
 #include "tables/CodeTableau.h"
 #include "tables/GenerationTableau.h"
-#include "template/Formules.h"
 #include "template/Interpreteur.h"
 #include "template/Nettoyage.h"
 #include "template/Textes.h"

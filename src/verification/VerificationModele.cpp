@@ -1,3 +1,4 @@
+#include "template/SeriesFormules.h"
 #include "verification/VerificationModele.h"
 
 #include <algorithm>
@@ -5,7 +6,6 @@
 #include "frame/Encodage.h"
 #include "frame/Texte.h"
 #include "study/DossierGeneral.h"
-#include "template/Formules.h"
 #include "template/Morceaux.h"
 #include "template/Textes.h"
 

@@ -11,6 +11,9 @@
 
 #include "support/DossierTemporaire.h"
 #include "support/BancInterpreteur.h"
+#include "template/Evaluateur.h"
+#include "template/References.h"
+#include "template/SeriesFormules.h"
 
 namespace norvane::test {
 namespace {
