@@ -3,6 +3,7 @@
 #include "frame/Encodage.h"
 #include "frame/FormatNombre.h"
 #include "study/Series.h"
+#include "tables/AjoutCellule.h"
 #include "tables/BlocsImmoEmprunts.h"
 #include "tables/DefinitionLigne.h"
 #include "tables/GenerationTableau.h"

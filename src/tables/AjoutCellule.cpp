@@ -1,5 +1,7 @@
 // One model cell in a row: a label at its place, or a line definition spread
 // over the value columns, each column's text made by the line's kind.
+#include "tables/AjoutCellule.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>

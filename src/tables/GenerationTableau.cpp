@@ -10,6 +10,7 @@
 #include "frame/Texte.h"
 #include "tables/CodeTableau.h"
 #include "tables/DefinitionLigne.h"
+#include "tables/LignesRtf.h"
 #include "tables/MultiDossier.h"
 #include "template/Textes.h"
 

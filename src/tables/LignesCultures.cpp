@@ -1,5 +1,7 @@
 // Rows of "cultu" and "cultp" lines, one a crop, and the crop values of
 // cells ("cultu", "cultp", "scult", "scltp").
+#include "tables/LignesCultures.h"
+
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -12,6 +14,7 @@
 #include "study/TexteEtude.h"
 #include "tables/DefinitionLigne.h"
 #include "tables/GenerationTableau.h"
+#include "tables/LignesRtf.h"
 #include "tables/ProducteursTables.h"
 #include "tables/ReferencesCultures.h"
 #include "tables/TableauxCultures.h"

@@ -1,5 +1,8 @@
 // The producers of ordinary rows, of the paragraphs between rows, and of the
 // premium summaries.
+#include "tables/AjoutCellule.h"
+#include "tables/LignesRtf.h"
+
 #include <algorithm>
 
 #include "frame/Encodage.h"

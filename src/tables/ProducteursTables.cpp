@@ -1,3 +1,4 @@
+#include "tables/LignesCultures.h"
 #include "tables/ProducteursTables.h"
 
 #include "frame/Encodage.h"

@@ -15,6 +15,7 @@
 #include "study/EntitesCourantes.h"
 #include "tables/ActivitesLibres.h"
 #include "tables/Cultures.h"
+#include "tables/LignesCultures.h"
 #include "tables/ProducteursDedies.h"
 #include "tables/TableauxCultures.h"
 

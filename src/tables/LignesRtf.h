@@ -1,0 +1,16 @@
+// The rows of the ordinary, spacing and premium line kinds of a table.
+#pragma once
+
+#include <string>
+
+#include "tables/ContexteTableau.h"
+
+namespace norvane {
+
+// The RTF of line LigneCourante of each kind, or "VALEURS NULLES"; `entete`
+// is the row start of the line.
+std::string LigneOrdinaire(ContexteTableau& contexte, const std::string& entete);
+std::string LigneEspace(ContexteTableau& contexte);
+std::string LignesPrimes(ContexteTableau& contexte, const std::string& entete);
+
+}  // namespace norvane
