@@ -1,7 +1,8 @@
+#include "graphs/render/Aires2D.h"
+
 #include <QPainter>
 
 #include "graphs/render/Pinceaux.h"
-#include "graphs/render/Series2D.h"
 
 namespace norvane {
 

@@ -1,8 +1,9 @@
+#include "graphs/render/Barres2D.h"
+
 #include <QPainter>
 #include <algorithm>
 
 #include "graphs/render/Pinceaux.h"
-#include "graphs/render/Series2D.h"
 
 namespace norvane {
 namespace {

@@ -1,9 +1,10 @@
+#include "graphs/render/Courbes2D.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
 
 #include "graphs/render/Pinceaux.h"
-#include "graphs/render/Series2D.h"
 
 namespace norvane {
 

@@ -4,8 +4,11 @@
 #include <cmath>
 
 #include "graphs/render/ApplicationQt.h"
-#include "graphs/render/Familles.h"
+#include "graphs/render/Graphique2D.h"
 #include "graphs/render/MiseEnPage.h"
+#include "graphs/render/NuageXY.h"
+#include "graphs/render/Secteurs.h"
+#include "graphs/render/Series3D.h"
 
 namespace norvane {
 namespace {

@@ -1,7 +1,10 @@
+#include "graphs/render/Graphique2D.h"
+
 #include <QPainter>
 
-#include "graphs/render/Familles.h"
-#include "graphs/render/Series2D.h"
+#include "graphs/render/Aires2D.h"
+#include "graphs/render/Barres2D.h"
+#include "graphs/render/Courbes2D.h"
 
 namespace norvane {
 

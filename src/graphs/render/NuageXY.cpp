@@ -1,11 +1,13 @@
 // XY charts: each series a line of points placed by their X and their Y.
+#include "graphs/render/NuageXY.h"
+
 #include <QPainter>
 #include <algorithm>
 
 #include "graphs/render/Axes2D.h"
-#include "graphs/render/Familles.h"
+#include "graphs/render/Courbes2D.h"
 #include "graphs/render/Pinceaux.h"
-#include "graphs/render/Series2D.h"
+#include "graphs/render/Trace2D.h"
 
 namespace norvane {
 namespace {

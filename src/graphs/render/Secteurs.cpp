@@ -1,11 +1,12 @@
 // Pies: one pie a category, a slice a series, its share written on it.
+#include "graphs/render/Secteurs.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 
 #include "graphs/render/Echelle.h"
-#include "graphs/render/Familles.h"
 #include "graphs/render/Pinceaux.h"
 
 namespace norvane {

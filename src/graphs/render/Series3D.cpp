@@ -1,12 +1,13 @@
 // The series of a 3D chart as solids: bars as boxes, lines as ribbons, areas
 // as slabs, steps as joined blocks; each series in its row of depth, or all
 // in one row when stacked.
+#include "graphs/render/Series3D.h"
+
 #include <QPainter>
 #include <algorithm>
 
 #include "graphs/render/Axes3D.h"
 #include "graphs/render/Empilement.h"
-#include "graphs/render/Familles.h"
 #include "graphs/render/Pinceaux.h"
 
 namespace norvane {

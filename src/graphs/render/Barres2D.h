@@ -1,0 +1,13 @@
+// Bars of a flat chart, side by side or stacked.
+#pragma once
+
+#include <vector>
+
+#include "graphs/render/Trace2D.h"
+
+namespace norvane {
+
+// Takes the indices of the series of its family.
+void DessinerBarres2D(const Trace2D& trace, const std::vector<std::size_t>& series);
+
+}  // namespace norvane
