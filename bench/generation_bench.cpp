@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "DossierExemple.h"
+#include "MesureGeneration.h"
 #include "support/PortsScriptes.h"
 #include "template/Generateur.h"
 
@@ -38,28 +39,13 @@ std::string Modele(std::size_t taille, const std::vector<std::string>& codes) {
 
 void Generer(benchmark::State& state, const std::vector<std::string>& codes, bool avecDossier) {
   const std::size_t taille = static_cast<std::size_t>(state.range(0)) << 20;
-  const fs::path dossier = fs::temp_directory_path() / "nv-bench";
-  fs::create_directories(dossier);
-  const std::string modele = (dossier / "modele.tvm").string(), resultat = (dossier / "resultat.rtf").string();
-  std::ofstream(modele, std::ios::binary) << Modele(taille, codes);
-
   Session session;
   if (avecDossier) {
     if (!banc::PlacerDossierExemple(session, state)) return;
   } else {
     session.InfoDossier.NomExploitation = "GAEC DES TILLEULS";
   }
-  MessagesScriptes messages;
-  ProgressionMuette progression;
-  EntitesCourantes entites;
-  for (auto _ : state) {
-    Generation g(session, messages, progression, entites);
-    ResultatDocument r =
-        CreerDocument(g, modele, resultat, {.miseAJour = false, .sansOuvrir = true, .demanderRemplacement = false});
-    benchmark::DoNotOptimize(r);
-  }
-  state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(taille));
-  fs::remove_all(dossier);
+  banc::MesurerGeneration(state, Modele(taille, codes), session, "nv-bench");
 }
 
 void SansCode(benchmark::State& state) { Generer(state, {}, false); }

@@ -10,6 +10,7 @@
 #include <fstream>
 #include <string>
 
+#include "MesureGeneration.h"
 #include "frame/Ports.h"
 #include "template/Generateur.h"
 
@@ -27,24 +28,9 @@ std::string Ligne(std::size_t taille, const std::string& motif) {
 
 void Generer(benchmark::State& state, const std::string& motif) {
   const std::size_t taille = static_cast<std::size_t>(state.range(0)) << 20;
-  const fs::path dossier = fs::temp_directory_path() / "nv-bench-reecritures";
-  fs::create_directories(dossier);
-  const std::string modele = (dossier / "modele.tvm").string(), resultat = (dossier / "resultat.rtf").string();
-  std::ofstream(modele, std::ios::binary) << Ligne(taille, motif);
-
   Session session;
   session.InfoDossier.NomExploitation = "GAEC DES TILLEULS";
-  MessagesMuets messages;
-  ProgressionMuette progression;
-  EntitesCourantes entites;
-  for (auto _ : state) {
-    Generation g(session, messages, progression, entites);
-    ResultatDocument r =
-        CreerDocument(g, modele, resultat, {.miseAJour = false, .sansOuvrir = true, .demanderRemplacement = false});
-    benchmark::DoNotOptimize(r);
-  }
-  state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(taille));
-  fs::remove_all(dossier);
+  banc::MesurerGeneration(state, Ligne(taille, motif), session, "nv-bench-reecritures");
 }
 
 void CodesSimples(benchmark::State& state) { Generer(state, "#tvl(nomExploit)# texte courant \\par "); }
