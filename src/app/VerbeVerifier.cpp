@@ -10,7 +10,8 @@
 
 namespace norvane {
 
-// Exit status: 0 no fault, 1 faults, 2 the template cannot be read.
+// Exit status: 0 no error (warnings alone leave it 0), 1 errors, 2 the
+// template cannot be read.
 int VerbeVerifier(Application& application) {
   const std::string& modele = application.Param(2);
   const std::string& format = application.options.format;
@@ -33,7 +34,7 @@ int VerbeVerifier(Application& application) {
   const EntitesCourantes aucuneEntite;
   const std::vector<CodeVerifie> codes = VerifierModele(application.session, aucuneEntite, *contenu);
   std::cout << (format == "json" ? RapportJson(codes, avecDossier) : RapportTexte(modele, codes, avecDossier));
-  return NombreErreurs(codes) == 0 ? 0 : 1;
+  return Nombre(codes, Statut::Erreur) == 0 ? 0 : 1;
 }
 
 }  // namespace norvane

@@ -13,6 +13,10 @@ inline constexpr char kTitreErreurDetectee[] = "Erreur détectée :  cliquez Fer
 enum class Boutons { Ok, OuiNon, OuiNonAnnuler };
 enum class Icone { Aucune, Information, Question, Exclamation, Critique };
 enum class Reponse { Ok, Oui, Non, Annuler };
+// The silent facts of a run: a series file or record that the dossier
+// lacks; a formula whose arithmetic fails on the values it is given (a
+// division by zero); a formula whose text cannot be read, whatever the values.
+enum class Constat { DonneeAbsente, CalculImpossible, FormuleIllisible };
 
 class PortMessages {
  public:
@@ -25,6 +29,12 @@ class PortMessages {
   // index (0-based) of the default button among those of `boutons`.
   virtual Reponse PoserQuestion(const std::string& titre, const std::string& texte, Boutons boutons, Icone icone,
                                 int boutonParDefaut) = 0;
+  // A fact that a run passes over without a word, because the template and
+  // the study files allow it: a series file or record that the dossier
+  // lacks, a formula worked out as 0. Nothing is shown: only a checker of
+  // templates listens, and says so, so that the texts are made for it alone.
+  virtual bool EcouteConstats() const { return false; }
+  virtual void Constater(Constat /*sorte*/, const std::string& /*texte*/) {}
 };
 
 class PortProgression {

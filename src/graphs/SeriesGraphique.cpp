@@ -1,6 +1,7 @@
 #include "graphs/SeriesGraphique.h"
 
 #include <cmath>
+#include <optional>
 
 #include "frame/Encodage.h"
 #include "frame/OutilsFichiers.h"
@@ -35,27 +36,44 @@ void SignalerTropDAnnees(PortMessages& messages, const ModeleGraphique& modele, 
                            "Le graphique est laissé vide.", "");
 }
 
+// A series that the dossier lacks draws as zeros, in silence; a listening
+// port is told which file or series is missing.
+void ConstaterSerieAbsente(PortMessages& messages, const ModeleGraphique& modele, const SourceValeursGraphique& source,
+                           const SerieGraphique& serie) {
+  if (!messages.EcouteConstats()) return;
+  const std::string chemin = AjouterAntislash(source.dossier) + Trim(serie.FichierSerie);
+  const std::string texte = TexteSerieAbsente(chemin, "La série " + Cp1252VersUtf8(Trim(serie.CodeSerie)));
+  messages.Constater(Constat::DonneeAbsente, texte + " : la série \"" + Cp1252VersUtf8(Trim(serie.NomSerie)) +
+                                                 "\" du graphique \"" + Cp1252VersUtf8(Trim(modele.Titre)) +
+                                                 "\" est tracée à zéro.");
+}
+
 }  // namespace
 
 SourceValeursGraphique SourceDeSession(const Session& session, bool valeursExemple) {
   return {DossierDuSlot(session, 0), session.InfoDossier.NbAnEtude, session.InfoDossier.AnneeDebut, valeursExemple};
 }
 
-ValeursSerie LireValeursSerie(const std::string& dossier, const std::string& fichier, const std::string& code) {
-  ValeursSerie valeurs{};
+std::optional<ValeursSerie> TrouverValeursSerie(const std::string& dossier, const std::string& fichier,
+                                                const std::string& code) {
   const std::string cherche = Trim(code);
   const auto octets = LireFichier(AjouterAntislash(dossier) + Trim(fichier));
-  if (!octets) return valeurs;
+  if (!octets) return std::nullopt;
   LecteurBinaire lecteur(*octets);
   for (std::size_t debut = 0; debut < octets->size(); debut += kLongueurSerie) {
     lecteur.Aller(debut);
     SerieDonnees serie = SerieVide();
     LireSerieDonnees(lecteur, serie);
     if (Trim(serie.CodeSerie) != cherche) continue;
+    ValeursSerie valeurs{};
     for (std::size_t i = 0; i < valeurs.size(); ++i) valeurs[i] = serie.Valeur[i];
-    break;
+    return valeurs;
   }
-  return valeurs;
+  return std::nullopt;
+}
+
+ValeursSerie LireValeursSerie(const std::string& dossier, const std::string& fichier, const std::string& code) {
+  return TrouverValeursSerie(dossier, fichier, code).value_or(ValeursSerie{});
 }
 
 bool RemplirGrille(const ModeleGraphique& modele, const SourceValeursGraphique& source, GrilleGraphique& grille,
@@ -79,7 +97,9 @@ bool RemplirGrille(const ModeleGraphique& modele, const SourceValeursGraphique& 
     if (source.valeursExemple) {
       ValeursExemple(grille, k);
     } else {
-      ValeursDossier(grille, k, LireValeursSerie(source.dossier, serie.FichierSerie, serie.CodeSerie));
+      const auto valeurs = TrouverValeursSerie(source.dossier, serie.FichierSerie, serie.CodeSerie);
+      if (!valeurs) ConstaterSerieAbsente(messages, modele, source, serie);
+      ValeursDossier(grille, k, valeurs.value_or(ValeursSerie{}));
     }
   }
   return true;

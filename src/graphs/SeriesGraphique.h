@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "frame/Ports.h"
@@ -35,6 +36,9 @@ SourceValeursGraphique SourceDeSession(const Session& session, bool valeursExemp
 // when the file or the record is missing. Records are read in order, the
 // first match wins.
 ValeursSerie LireValeursSerie(const std::string& dossier, const std::string& fichier, const std::string& code);
+// The same, std::nullopt when the file or the record is missing.
+std::optional<ValeursSerie> TrouverValeursSerie(const std::string& dossier, const std::string& fichier,
+                                                const std::string& code);
 
 // Fills the grid of a chart: one column per series in use, labelled with its
 // NomSerie; NbAnEtude rows (NbSeries when there are no years), labelled with

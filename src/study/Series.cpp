@@ -1,6 +1,8 @@
 #include "study/Series.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "frame/Encodage.h"
 #include "frame/FormatNombre.h"
@@ -14,6 +16,7 @@ namespace {
 
 constexpr const char* kAppelant = "CreationDoc";
 constexpr int kDerniereColonne = 13;
+constexpr const char* kSeriesVides = " : ses séries restent vides.";
 
 // The parts of a series code once its file is known.
 struct CodeSerieLu {
@@ -83,6 +86,32 @@ void ErreurStatistique(const ContexteSeries& contexte, const std::string& code) 
                                     "Le code \"" + Cp1252VersUtf8(code) +
                                         "\" est erroné ( après le - ).\nCette portion de code ne peut être traitée.",
                                     "Modifiez le modèle utilisé pour que ce message d'erreur n'apparaisse plus.", "");
+}
+
+// "RES.DON" and "MARTIN_PAUL.TVL" out of ".../MARTIN_PAUL.TVL/RES.DON".
+std::pair<std::string, std::string> FichierEtDossier(std::string_view chemin) {
+  const std::size_t barre = chemin.find_last_of("/\\");
+  if (barre == std::string_view::npos) return {std::string(chemin), std::string()};
+  const std::string_view dossier = chemin.substr(0, barre);
+  const std::size_t avant = dossier.find_last_of("/\\");
+  return {std::string(chemin.substr(barre + 1)),
+          std::string(avant == std::string_view::npos ? dossier : dossier.substr(avant + 1))};
+}
+
+// A record that reads blank: the file or the record is missing, which the
+// reader passes over in silence; a listening port is told which.
+void ConstaterEnregistrementVide(const ContexteSeries& contexte, const std::string& fichier, int32_t numero) {
+  if (!contexte.messages.EcouteConstats()) return;
+  const uint64_t taille = TailleReelle(contexte, fichier);
+  if (taille == 0) {
+    contexte.messages.Constater(Constat::DonneeAbsente, TexteSerieAbsente(fichier, {}) + kSeriesVides);
+    return;
+  }
+  const uint64_t nombre = taille / kLongueurSerie;
+  if (numero >= 1 && static_cast<uint64_t>(numero) <= nombre) return;  // a record really blank
+  contexte.messages.Constater(Constat::DonneeAbsente,
+                              TexteSerieAbsente(fichier, "L'enregistrement n°" + std::to_string(numero)) +
+                                  ", qui en compte " + std::to_string(nombre) + " : cette série reste vide.");
 }
 
 float Colonne(const SerieDonnees& serie, int annee) {
@@ -172,8 +201,23 @@ std::string ParSelecteur(const ContexteSeries& contexte, const CodeSerieLu& lu, 
 }  // namespace
 
 SerieDonnees LireEnregistrementSerie(const ContexteSeries& contexte, const std::string& fichier, int32_t numero) {
-  if (contexte.cache != nullptr) return contexte.cache->Enregistrement(fichier, numero);
-  return LireEnregistrementSerie(fichier, numero);
+  SerieDonnees serie =
+      contexte.cache != nullptr ? contexte.cache->Enregistrement(fichier, numero) : LireEnregistrementSerie(fichier, numero);
+  if (EstBlanc(serie.CodeSerie)) ConstaterEnregistrementVide(contexte, fichier, numero);
+  return serie;
+}
+
+std::string TexteSerieAbsente(const std::string& chemin, const std::string& designation) {
+  const auto [nom, dossier] = FichierEtDossier(chemin);
+  const std::optional<uint64_t> taille = TailleFichierReguliere(chemin);
+  if (taille.value_or(0) > 0) {
+    return designation + " n'existe pas dans le fichier " + Cp1252VersUtf8(nom) + " du dossier " +
+           Cp1252VersUtf8(dossier);
+  }
+  if (taille) {
+    return "Le fichier " + Cp1252VersUtf8(nom) + " du dossier " + Cp1252VersUtf8(dossier) + " est vide";
+  }
+  return "Le fichier " + Cp1252VersUtf8(nom) + " n'existe pas dans le dossier " + Cp1252VersUtf8(dossier);
 }
 
 std::string DossierDuSlot(const Session& session, int slot) {
@@ -194,7 +238,12 @@ std::string LireSerie(const ContexteSeries& contexte, std::string& code, int16_t
     }
     lu = {DossierDuSlot(contexte.session, dossier) + code.substr(0, plus), Apres(code, tiret), 0};
   }
-  if (TailleReelle(contexte, lu.fichier) == 0) return {};
+  if (TailleReelle(contexte, lu.fichier) == 0) {
+    if (contexte.messages.EcouteConstats()) {
+      contexte.messages.Constater(Constat::DonneeAbsente, TexteSerieAbsente(lu.fichier, {}) + kSeriesVides);
+    }
+    return {};
+  }
   if (annee != -1) {
     return Valeur(contexte, lu.fichier, NumeroDerriere(lu.selecteur, lu.numeroParDefaut), annee, decimales);
   }

@@ -25,8 +25,17 @@ struct ContexteSeries {
 };
 
 // Record `numero` of a .DON file as LireEnregistrementSerie reads it, through
-// the context's cache when it has one.
+// the context's cache when it has one. A record that the file lacks, or a
+// file that the dossier lacks, reads blank, and is told to the context's
+// port as a silent fact.
 SerieDonnees LireEnregistrementSerie(const ContexteSeries& contexte, const std::string& fichier, int32_t numero);
+
+// What the readers say, to a port that listens, of a series that the
+// dossier lacks: the file `chemin` missing ("Le fichier RES.DON n'existe pas
+// dans le dossier MARTIN_PAUL.TVL") or empty; or else, the file holding
+// data, the series `designation` names ("L'enregistrement n°40") missing from
+// it. UTF-8, with no final stop.
+std::string TexteSerieAbsente(const std::string& chemin, const std::string& designation);
 
 // Folder of dossier slot n: AjouterAntislash(RepDossier(n)) + AjouterAntislash(NomDossier(n)).
 std::string DossierDuSlot(const Session& session, int slot);

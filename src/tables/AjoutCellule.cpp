@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include "frame/Encodage.h"
 #include "frame/Texte.h"
@@ -56,8 +57,10 @@ std::string ValeurImmo(ContexteTableau& contexte, const std::string& reste, int 
 // the texts given after the kind ("<start>&<end>").
 std::string TexteIntitule(ContexteTableau& contexte, const std::string& reste, const ColonnesValeurs& colonnes,
                           int c) {
-  const std::size_t deuxPoints = reste.find(':');
-  if (colonnes.modeAnnees == 2 && contexte.modele.MultiDossier != 1) {
+  const bool multi = contexte.modele.MultiDossier == 1;
+  const std::optional<std::string> sorte = SorteIntitule(reste, multi, colonnes.modeAnnees);
+  if (!sorte) {
+    const std::size_t deuxPoints = reste.find(':');
     const std::string apres = deuxPoints == std::string::npos ? std::string() : reste.substr(deuxPoints + 1);
     const std::size_t et = apres.find('&');
     std::string texte = et == std::string::npos
@@ -65,11 +68,8 @@ std::string TexteIntitule(ContexteTableau& contexte, const std::string& reste, c
                             : (c == 1 ? apres.substr(0, et) : apres.substr(et + 1));
     return RemplacerTout(texte, "_", " ");
   }
-  const std::string sorte = deuxPoints == std::string::npos ? "1" : reste.substr(0, deuxPoints);
-  if (contexte.modele.MultiDossier == 1) {
-    return IntituleDossier(contexte.etat().NomsDossiers[static_cast<std::size_t>(std::clamp(c, 0, 9))], c, sorte);
-  }
-  return IntituleAnnee(contexte.generation.session.InfoDossier.DateDebut, c, sorte, contexte.generation.messages);
+  if (multi) return IntituleDossier(contexte.etat().NomsDossiers[static_cast<std::size_t>(std::clamp(c, 0, 9))], c, *sorte);
+  return IntituleAnnee(contexte.generation.session.InfoDossier.DateDebut, c, *sorte, contexte.generation.messages);
 }
 
 std::string TexteColonne(ContexteTableau& contexte, const CelluleRtf& cellule, const DefinitionLue& definition,

@@ -46,14 +46,21 @@ std::string IntituleDate(std::string_view dateDebut, DateCivile debutEtude, int 
 
 }  // namespace
 
+std::optional<std::string> SorteIntitule(std::string_view reste, bool multiDossier, int16_t modeAnnees) {
+  if (modeAnnees == 2 && !multiDossier) return std::nullopt;
+  const std::size_t deuxPoints = reste.find(':');
+  return deuxPoints == std::string_view::npos ? std::string("1") : std::string(reste.substr(0, deuxPoints));
+}
+
+bool SorteIntituleAnneeConnue(std::string_view sorte) { return sorte.size() == 1 && sorte[0] >= '1' && sorte[0] <= '7'; }
+
 std::string IntituleAnnee(std::string_view dateDebut, int c, std::string_view sorte, PortMessages& messages) {
-  if (sorte == "5") return "exercice " + Nombre(c);
-  if (sorte == "7") return Nombre(c);
-  if (sorte.size() != 1 || sorte[0] < '1' || sorte[0] > '6') {
-    messages.AfficherMessage("GestTableau", "Erreur détectée dans le modèle",
-                             "Le format de la ligne d'intitulé d'un tableau est incorrect.", "", "");
+  if (!SorteIntituleAnneeConnue(sorte)) {
+    messages.AfficherMessage("GestTableau", "Erreur détectée dans le modèle", kIntituleIncorrect, "", "");
     return {};
   }
+  if (sorte == "5") return "exercice " + Nombre(c);
+  if (sorte == "7") return Nombre(c);
   const auto debutEtude = LireDateCivile(dateDebut);
   if (!debutEtude) return {};
   return IntituleDate(dateDebut, *debutEtude, c, sorte[0]);

@@ -20,6 +20,7 @@
 #include <cmath>
 #include <optional>
 #include <string_view>
+#include <system_error>
 
 namespace norvane {
 namespace {
@@ -38,6 +39,10 @@ class Evaluateur {
     if (!valeur || position_ != texte_.size() || !std::isfinite(*valeur)) return std::nullopt;
     return valeur;
   }
+
+  // A division by zero, 0^0 or an overflow stopped the work: the value is
+  // not had, though the text may be right.
+  bool EchecArithmetique() const { return arithmetique_; }
 
  private:
   void SauterBlancs() {
@@ -125,6 +130,7 @@ class Evaluateur {
     if (!SauterExposant()) return std::nullopt;
     double valeur = 0;
     auto res = std::from_chars(texte_.data() + debut, texte_.data() + position_, valeur);
+    if (res.ec == std::errc::result_out_of_range) arithmetique_ = true;
     if (res.ec != std::errc() || res.ptr != texte_.data() + position_) return std::nullopt;
     return valeur;
   }
@@ -143,20 +149,26 @@ class Evaluateur {
     return SauterChiffres() > 0;
   }
 
-  static std::optional<double> Combiner(std::optional<double> a, std::optional<double> b, char operateur) {
+  std::optional<double> Combiner(std::optional<double> a, std::optional<double> b, char operateur) {
     if (!a || !b) return std::nullopt;
+    const std::optional<double> r = Operation(*a, *b, operateur);
+    if (!r) arithmetique_ = true;
+    return r;
+  }
+
+  static std::optional<double> Operation(double a, double b, char operateur) {
     double r = 0;
     switch (operateur) {
-      case '+': r = *a + *b; break;
-      case '-': r = *a - *b; break;
-      case '*': r = *a * *b; break;
+      case '+': r = a + b; break;
+      case '-': r = a - b; break;
+      case '*': r = a * b; break;
       case '/':
-        if (*b == 0) return std::nullopt;
-        r = *a / *b;
+        if (b == 0) return std::nullopt;
+        r = a / b;
         break;
       default:
-        if (*a == 0 && *b <= 0) return std::nullopt;
-        r = std::pow(*a, *b);
+        if (a == 0 && b <= 0) return std::nullopt;
+        r = std::pow(a, b);
         break;
     }
     if (!std::isfinite(r)) return std::nullopt;
@@ -166,13 +178,18 @@ class Evaluateur {
   std::string_view texte_;
   std::size_t position_ = 0;
   int profondeur_ = 0;
+  bool arithmetique_ = false;
 };
 
 }  // namespace
 
-double EvaluerExpression(const std::string& expression) {
-  std::optional<double> valeur = Evaluateur(expression).Evaluer();
-  return valeur ? *valeur : 0.0;
+CalculExpression CalculerExpression(const std::string& expression) {
+  Evaluateur evaluateur(expression);
+  const std::optional<double> valeur = evaluateur.Evaluer();
+  if (valeur) return {*valeur, EchecCalcul::Aucun};
+  return {0.0, evaluateur.EchecArithmetique() ? EchecCalcul::Arithmetique : EchecCalcul::Syntaxe};
 }
+
+double EvaluerExpression(const std::string& expression) { return CalculerExpression(expression).valeur; }
 
 }  // namespace norvane

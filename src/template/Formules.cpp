@@ -34,6 +34,22 @@ float VersFloat(double valeur) {
   return static_cast<float>(valeur);
 }
 
+// A formula worked out as 0 is no fault of the run; a listening port is
+// told why.
+void ConstaterEchec(Generation& generation, const std::string& formule, EchecCalcul echec) {
+  if (!generation.messages.EcouteConstats()) return;
+  const std::string debut = "La formule \"" + Cp1252VersUtf8(RemplacerTout(formule, "_", " ")) + "\" ne peut être calculée";
+  if (echec == EchecCalcul::Syntaxe) {
+    generation.messages.Constater(Constat::FormuleIllisible,
+                                  debut + " : son écriture n'est pas comprise (opérateur, nombre ou parenthèse mal "
+                                          "placé) ; le document affichera 0.");
+  } else {
+    generation.messages.Constater(Constat::CalculImpossible,
+                                  debut + " avec les valeurs du dossier (division par zéro ou nombre hors limites) "
+                                          "; le document affichera 0.");
+  }
+}
+
 }  // namespace
 
 std::string ValeurCodeFormule(Generation& generation, const std::string& code) {
@@ -63,9 +79,14 @@ std::string CalculerFormule(Generation& generation, const std::string& formule, 
     decimales = Entier16De(std::string_view(formule).substr(deuxPoints + 1));
     expression.resize(deuxPoints);
   }
+  const std::string ecrite = expression;
   expression = RemplacerReferences(generation, expression, annee);
   std::replace(expression.begin(), expression.end(), ',', '.');
-  return FormatNombre(VersFloat(EvaluerExpression(expression)), decimales, false);
+  CalculExpression calcul = CalculerExpression(expression);
+  const float valeur = VersFloat(calcul.valeur);
+  if (valeur == 0.0f && calcul.valeur != 0.0) calcul.echec = EchecCalcul::Arithmetique;
+  if (calcul.echec != EchecCalcul::Aucun) ConstaterEchec(generation, ecrite, calcul.echec);
+  return FormatNombre(valeur, decimales, false);
 }
 
 }  // namespace norvane

@@ -24,8 +24,18 @@ std::string Bloc(std::size_t n, const CodeVerifie& c, bool avecValeurs) {
   bloc += "  Code : " + c.code + "\n";
   if (!c.sens.empty()) bloc += "  Sens : " + c.sens + "\n";
   if (avecValeurs) bloc += "  Valeur : " + ValeurCourte(c.valeur) + "\n";
-  bloc += c.valide ? "  Statut : valide\n" : "  Statut : erreur — " + c.message + "\n";
+  bloc += "  Statut : " + std::string(NomStatut(c.statut));
+  bloc += c.statut == Statut::Valide ? "\n" : " — " + c.message + "\n";
   return bloc + "\n";
+}
+
+// The codes of one status, each with its place and its message.
+std::string Liste(const std::vector<CodeVerifie>& codes, Statut statut, const char* titre) {
+  std::string liste;
+  for (const CodeVerifie& c : codes) {
+    if (c.statut == statut) liste += "  " + Place(c.place) + " : " + c.code + "\n    " + c.message + "\n";
+  }
+  return liste.empty() ? liste : titre + liste;
 }
 
 }  // namespace
@@ -33,12 +43,19 @@ std::string Bloc(std::size_t n, const CodeVerifie& c, bool avecValeurs) {
 std::string RapportTexte(const std::string& modele, const std::vector<CodeVerifie>& codes, bool avecValeurs) {
   std::string texte = "Vérification du modèle " + modele + "\n\n";
   for (std::size_t i = 0; i < codes.size(); ++i) texte += Bloc(i + 1, codes[i], avecValeurs);
-  const std::size_t erreurs = NombreErreurs(codes);
-  texte += std::to_string(codes.size()) + " code(s) vérifié(s), " + std::to_string(erreurs) + " erreur(s).\n";
-  for (const CodeVerifie& c : codes) {
-    if (!c.valide) texte += "  " + Place(c.place) + " : " + c.code + "\n    " + c.message + "\n";
+  texte += std::to_string(codes.size()) + " code(s) vérifié(s), " +
+           std::to_string(Nombre(codes, Statut::Erreur)) + " erreur(s), " +
+           std::to_string(Nombre(codes, Statut::Avertissement)) + " avertissement(s).\n";
+  return texte + Liste(codes, Statut::Erreur, "Erreurs :\n") + Liste(codes, Statut::Avertissement, "Avertissements :\n");
+}
+
+const char* NomStatut(Statut statut) {
+  switch (statut) {
+    case Statut::Erreur: return "erreur";
+    case Statut::Avertissement: return "avertissement";
+    case Statut::Valide: break;
   }
-  return texte;
+  return "valide";
 }
 
 std::string ChaineJson(const std::string& texte) {
@@ -71,7 +88,7 @@ std::string RapportJson(const std::vector<CodeVerifie>& codes, bool avecValeurs)
     json += "  {\"ligne\": " + std::to_string(c.place.ligne) + ", \"colonne\": " + std::to_string(c.place.colonne) +
             ", \"page\": " + std::to_string(c.place.page) + ", \"paragraphe\": " + std::to_string(c.place.paragraphe) +
             ", \"code\": " + ChaineJson(c.code) + ", \"sens\": " + ChaineJson(c.sens) +
-            ", \"statut\": " + (c.valide ? "\"valide\"" : "\"erreur\"") + ", \"message\": " + ChaineJson(c.message);
+            ", \"statut\": " + ChaineJson(NomStatut(c.statut)) + ", \"message\": " + ChaineJson(c.message);
     if (avecValeurs) json += ", \"valeur\": " + ChaineJson(c.valeur);
     json += "}";
   }

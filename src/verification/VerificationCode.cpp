@@ -1,5 +1,6 @@
-#include "template/SeriesFormules.h"
 #include "verification/VerificationCode.h"
+
+#include <algorithm>
 
 #include "frame/Encodage.h"
 #include "frame/Texte.h"
@@ -7,12 +8,35 @@
 #include "tables/GenerationTableau.h"
 #include "template/Interpreteur.h"
 #include "template/Nettoyage.h"
+#include "template/SeriesFormules.h"
 #include "template/Textes.h"
+#include "verification/VerificationTableau.h"
 
 namespace norvane {
 namespace {
 
 constexpr std::string_view kAlors = ")alors:";
+
+using Dit = MessagesEnregistres::Dit;
+
+void AjouterUneFois(std::vector<Dit>& dits, const std::string& texte, int ligne) {
+  auto dit = std::find_if(dits.begin(), dits.end(), [&texte](const Dit& d) { return d.texte == texte; });
+  if (dit == dits.end()) dit = dits.insert(dits.end(), Dit{texte, {}});
+  if (ligne > 0 && std::find(dit->lignes.begin(), dit->lignes.end(), ligne) == dit->lignes.end()) {
+    dit->lignes.push_back(ligne);
+  }
+}
+
+// " (ligne 2 du tableau)", " (lignes 2, 3 et 5 du tableau)".
+std::string Lignes(const std::vector<int>& lignes) {
+  if (lignes.empty()) return {};
+  std::string texte = lignes.size() == 1 ? " (ligne " : " (lignes ";
+  for (std::size_t i = 0; i < lignes.size(); ++i) {
+    if (i > 0) texte += i + 1 == lignes.size() ? " et " : ", ";
+    texte += std::to_string(lignes[i]);
+  }
+  return texte + " du tableau)";
+}
 
 // A box as one line of the report.
 std::string LigneMessage(const std::string& texte, const std::string& conseil) {
@@ -37,8 +61,22 @@ void MessagesEnregistres::AfficherMessage(const std::string& /*appelant*/, const
   if (style == "Aide") {
     sens = Trim(RemplacerTout(texte, "\n", " "));
   } else {
-    fautes.push_back(LigneMessage(texte, conseil));
+    AjouterFaute(LigneMessage(texte, conseil));
   }
+}
+
+void MessagesEnregistres::AjouterFaute(const std::string& texte) { AjouterUneFois(fautes, texte, ligneTableau); }
+
+void MessagesEnregistres::Constater(Constat sorte, const std::string& texte) {
+  if (syntaxeSeule && sorte != Constat::FormuleIllisible) return;
+  if (calculsIgnores && sorte == Constat::CalculImpossible) return;
+  AjouterUneFois(avertissements, texte, ligneTableau);
+}
+
+std::string MessagesEnregistres::Joindre(const std::vector<Dit>& dits) {
+  std::string texte;
+  for (const Dit& dit : dits) texte += (texte.empty() ? "" : " | ") + dit.texte + Lignes(dit.lignes);
+  return texte;
 }
 
 Reponse MessagesEnregistres::PoserQuestion(const std::string& /*titre*/, const std::string& /*texte*/,
@@ -49,6 +87,9 @@ Reponse MessagesEnregistres::PoserQuestion(const std::string& /*titre*/, const s
 void MessagesEnregistres::Vider() {
   sens.clear();
   fautes.clear();
+  avertissements.clear();
+  ligneTableau = 0;
+  calculsIgnores = false;
 }
 
 CodeVerifie VerificateurCode::Verifier(std::string_view tranche) {
@@ -62,10 +103,13 @@ CodeVerifie VerificateurCode::Verifier(std::string_view tranche) {
   if (texte != tranche) resultat.valeur = Cp1252VersUtf8(Trim(RemplacerTout(texte, "\\par ", " ")));
   VerifierDecodeurs(code);
   resultat.sens = messages_.sens;
-  for (const std::string& faute : messages_.fautes) {
-    resultat.message += (resultat.message.empty() ? "" : " | ") + faute;
+  resultat.message = MessagesEnregistres::Joindre(messages_.fautes);
+  if (!messages_.avertissements.empty()) {
+    resultat.message += (resultat.message.empty() ? "" : " | ") + MessagesEnregistres::Joindre(messages_.avertissements);
   }
-  resultat.valide = messages_.fautes.empty();
+  resultat.statut = !messages_.fautes.empty()           ? Statut::Erreur
+                    : !messages_.avertissements.empty() ? Statut::Avertissement
+                                                        : Statut::Valide;
   return resultat;
 }
 
@@ -77,7 +121,11 @@ void VerificateurCode::VerifierDecodeurs(std::string code) {
     const std::string texte = NettoyerCodeTableau(code);
     ModeleTableau modele;
     const Resultat<void> lu = LireCodeTableau(texte, modele);
-    if (!lu) messages_.fautes.push_back(MessageLectureTableau(texte, lu.Erreur()));
+    if (!lu) {
+      messages_.AjouterFaute(MessageLectureTableau(texte, lu.Erreur()));
+      return;
+    }
+    VerifierLignesTableau(g_, messages_, modele);
   } else if (CommencePar(code, "gph(")) {
     graphiques_.GenererGraphique(g_, code);
   }

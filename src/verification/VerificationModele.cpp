@@ -18,7 +18,7 @@ CodeVerifie SansBaliseDeFin(std::string_view reste) {
   CodeVerifie c;
   const std::string extrait = reste.size() < 66 ? std::string(reste) : std::string(reste.substr(0, 62)) + "...";
   c.code = Cp1252VersUtf8(extrait);
-  c.valide = false;
+  c.statut = Statut::Erreur;
   c.message =
       "Norvane ne trouve pas la balise de fin d'un code à interpréter dans le modèle de document utilisé pour la "
       "création.";
@@ -56,8 +56,9 @@ std::vector<CodeVerifie> VerifierModele(Session& session, const EntitesCourantes
   return codes;
 }
 
-std::size_t NombreErreurs(const std::vector<CodeVerifie>& codes) {
-  return static_cast<std::size_t>(std::count_if(codes.begin(), codes.end(), [](const CodeVerifie& c) { return !c.valide; }));
+std::size_t Nombre(const std::vector<CodeVerifie>& codes, Statut statut) {
+  return static_cast<std::size_t>(
+      std::count_if(codes.begin(), codes.end(), [statut](const CodeVerifie& c) { return c.statut == statut; }));
 }
 
 }  // namespace norvane

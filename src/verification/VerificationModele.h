@@ -16,6 +16,7 @@ namespace norvane {
 // evaluated against the dossier of the session's slot 0 when it names one.
 std::vector<CodeVerifie> VerifierModele(Session& session, const EntitesCourantes& entites, std::string_view contenu);
 
-std::size_t NombreErreurs(const std::vector<CodeVerifie>& codes);
+// The codes of that status.
+std::size_t Nombre(const std::vector<CodeVerifie>& codes, Statut statut);
 
 }  // namespace norvane

@@ -57,12 +57,12 @@ TEST(VerificationModele, EachFaultOfTheBrokenTemplateAtItsPlace) {
     EXPECT_EQ(c.place.ligne, a.ligne) << i;
     EXPECT_EQ(c.place.colonne, a.colonne) << i;
     EXPECT_EQ(c.place.page, a.page) << i;
-    EXPECT_EQ(c.valide, a.valide) << i << " " << c.message;
+    EXPECT_EQ(c.statut == Statut::Valide, a.valide) << i << " " << c.message;
     EXPECT_NE(c.message.find(a.message), std::string::npos) << i << " " << c.message;
   }
   EXPECT_EQ(codes[0].code, "#tvl(nomExploit)#");
   EXPECT_EQ(codes[1].code, "#tvl(nomSociete)#");
-  EXPECT_EQ(NombreErreurs(codes), 6u);
+  EXPECT_EQ(Nombre(codes, Statut::Erreur), 6u);
 }
 
 TEST(VerificationModele, JsonHoldsEveryCodeWithItsTextsEscaped) {
@@ -90,7 +90,7 @@ TEST(VerificationModele, ExampleTemplatesCheckCleanAndGenerateSilently) {
     ++modeles;
     const auto codes = Verifier(LireFichier(entree.path().string()).value_or(std::string()));
     EXPECT_FALSE(codes.empty()) << entree.path();
-    EXPECT_EQ(NombreErreurs(codes), 0u) << entree.path();
+    EXPECT_EQ(Nombre(codes, Statut::Erreur), 0u) << entree.path();
     Session session;
     DossierExemple(session);
     ChargerInfoDossier(session);
@@ -116,9 +116,9 @@ TEST(VerificationModele, WithoutADossierOnlyTheSyntaxCounts) {
   const auto codes = VerifierModele(session, entites,
                                     "{\\rtf1 #tvl(formule:1a:LG(RES-17)/LG(RES-1)*100:1)# #tvl(motInconnu)#}");
   ASSERT_EQ(codes.size(), 2u);
-  EXPECT_TRUE(codes[0].valide) << codes[0].message;
-  EXPECT_FALSE(codes[1].valide);
-  EXPECT_EQ(NombreErreurs(codes), 1u);
+  EXPECT_EQ(codes[0].statut, Statut::Valide) << codes[0].message;
+  EXPECT_EQ(codes[1].statut, Statut::Erreur);
+  EXPECT_EQ(Nombre(codes, Statut::Erreur), 1u);
 }
 
 }  // namespace
