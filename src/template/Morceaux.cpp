@@ -155,6 +155,54 @@ void CompteMemorise::ApresRetouche(const std::string& texte, const Retouche& r) 
   if (touche) nombre_ += CompterEntre(texte, de, r.NouvelleFin());
 }
 
+void OriginesMorceau::Charger(std::size_t origine) {
+  segments_.swap(tete_);
+  tete_.clear();
+  segments_.push_back({static_cast<std::ptrdiff_t>(finTete_), origine});
+  finTete_ = 0;
+}
+
+void OriginesMorceau::Coller(std::size_t taille, std::size_t origine) {
+  segments_.push_back({static_cast<std::ptrdiff_t>(taille), origine});
+}
+
+void OriginesMorceau::AnnoncerTete(std::size_t ajout, std::size_t origineReste, std::size_t longueur) {
+  tete_ = {{0, origineReste, true}, {static_cast<std::ptrdiff_t>(ajout), origineReste}};
+  finTete_ = ajout + longueur;
+}
+
+OriginesMorceau::Segment OriginesMorceau::SegmentEn(std::size_t position) const {
+  const auto p = static_cast<std::ptrdiff_t>(position);
+  auto apres = std::upper_bound(segments_.begin(), segments_.end(), p,
+                                [](std::ptrdiff_t x, const Segment& s) { return x < s.debut; });
+  return apres == segments_.begin() ? Segment{0, 0} : *(apres - 1);
+}
+
+std::size_t OriginesMorceau::Origine(std::size_t position) const {
+  const Segment s = SegmentEn(position);
+  return s.fixe ? s.origine : s.origine + static_cast<std::size_t>(static_cast<std::ptrdiff_t>(position) - s.debut);
+}
+
+// Segments before the edit move with the head, those behind it with the
+// tail; one starting inside the replaced bytes is covered by the new ones.
+void OriginesMorceau::ApresRetouche(const std::string& /*texte*/, const Retouche& r) {
+  const std::size_t origineDebut = Origine(r.debut);
+  const std::size_t origineFin = Origine(r.fin);
+  std::vector<Segment> nouveaux;
+  nouveaux.reserve(segments_.size() + 2);
+  const auto debut = static_cast<std::ptrdiff_t>(r.debut);
+  const auto fin = static_cast<std::ptrdiff_t>(r.fin);
+  for (const Segment& s : segments_) {
+    if (s.debut < debut) nouveaux.push_back({s.debut + r.decalageTete, s.origine, s.fixe});
+  }
+  nouveaux.push_back({static_cast<std::ptrdiff_t>(r.NouveauDebut()), origineDebut, true});
+  nouveaux.push_back({static_cast<std::ptrdiff_t>(r.NouvelleFin()), origineFin, SegmentEn(r.fin).fixe});
+  for (const Segment& s : segments_) {
+    if (s.debut > fin) nouveaux.push_back({s.debut + r.decalageQueue, s.origine, s.fixe});
+  }
+  segments_.swap(nouveaux);
+}
+
 void MorceauCourant::Charger(std::string texte) {
   texte_ = std::move(texte);
   debut_ = 0;

@@ -105,6 +105,38 @@ class CompteMemorise : public SuiviMorceau {
   std::size_t taille_ = 0;
 };
 
+// Where each byte of the piece in hand stood in the template's text without
+// its line breaks (the pieces end to end), through loads, gluings and edits:
+// what a reader of the walk needs to place what it meets. Bytes that an edit
+// put in, and a notice put in front of a piece, all take the place of the
+// first byte they replaced or stand at: a start mark moved out of a bookmark
+// stays where the user typed it.
+class OriginesMorceau : public SuiviMorceau {
+ public:
+  // A piece loaded, whose first byte stood at `origine`.
+  void Charger(std::size_t origine);
+  // A piece glued behind the first `taille` bytes of the piece in hand.
+  void Coller(std::size_t taille, std::size_t origine);
+  // The next piece loaded opens with `ajout` bytes of a notice, then the
+  // `longueur` bytes that stood from `origineReste` on, then its own text.
+  void AnnoncerTete(std::size_t ajout, std::size_t origineReste, std::size_t longueur);
+  std::size_t Origine(std::size_t position) const;
+  void ApresRetouche(const std::string& texte, const Retouche& r) override;
+
+ private:
+  struct Segment {
+    std::ptrdiff_t debut;  // in the piece in hand; the head consumed may lie before 0
+    std::size_t origine;
+    bool fixe = false;     // every byte of the segment takes `origine`
+  };
+  // The segment that holds `position`.
+  Segment SegmentEn(std::size_t position) const;
+
+  std::vector<Segment> segments_;  // by `debut`
+  std::vector<Segment> tete_;      // what the next load opens with
+  std::size_t finTete_ = 0;        // where the next load's own text starts
+};
+
 // The piece in hand: a text of which the part before `debut` is consumed.
 // Cutting its head only moves `debut`, so that the generator never copies
 // the remainder of a long piece at each code. An edit moves the part between
@@ -126,9 +158,10 @@ class MorceauCourant {
   std::size_t Trouver(RechercheMemorisee& recherche) { return TrouverDepuis(recherche, debut_); }
   std::size_t TrouverDepuis(RechercheMemorisee& recherche, std::size_t depuis);
   std::size_t Compter(CompteMemorise& compte, std::size_t depuis);
+  // Tells `suivi` of every edit from now on.
+  void Suivre(SuiviMorceau& suivi);
 
  private:
-  void Suivre(SuiviMorceau& suivi);
   void Notifier(const Retouche& r, bool avant);
 
   std::string texte_;

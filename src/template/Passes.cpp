@@ -52,6 +52,7 @@ void SuiviProgression::Terminer(const std::string& texte) {
 
 std::string ParcoursMorceaux::Executer() {
   std::size_t i = 0;
+  if (origines_ != nullptr) origines_->Charger(0);
   morceau_.Charger(std::move(morceaux_[0]));
   for (;;) {
     const Suite suite = Tour(i);
@@ -59,13 +60,26 @@ std::string ParcoursMorceaux::Executer() {
     if (suite == Suite::MemePiece) continue;
     if (++i >= morceaux_.size()) break;
     if (suite == Suite::Coller) {
+      if (origines_ != nullptr) origines_->Coller(morceau_.Texte().size(), debutsPieces_[i]);
       morceau_.Coller(morceaux_[i]);
     } else {
+      if (origines_ != nullptr) origines_->Charger(debutsPieces_[i]);
       morceau_.Charger(std::move(morceaux_[i]));
     }
     std::string().swap(morceaux_[i]);
   }
   return std::move(sortie_.texte);
+}
+
+void ParcoursMorceaux::SuivreOrigines(OriginesMorceau& origines) {
+  origines_ = &origines;
+  morceau_.Suivre(origines);
+  debutsPieces_.clear();
+  std::size_t debut = 0;
+  for (const std::string& morceau : morceaux_) {
+    debutsPieces_.push_back(debut);
+    debut += morceau.size();
+  }
 }
 
 void ParcoursMorceaux::EcrireJusqua(std::size_t position) {

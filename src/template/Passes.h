@@ -72,6 +72,9 @@ class ParcoursMorceaux {
   // Writes the piece from its start up to `position`, with no line end, and
   // makes the piece begin there.
   void EcrireJusqua(std::size_t position);
+  // From now on `origines` knows where each byte of the piece in hand stood
+  // in the template. Called before Executer; without it nothing is followed.
+  void SuivreOrigines(OriginesMorceau& origines);
 
   Generation& g_;
   std::vector<std::string> morceaux_;
@@ -79,6 +82,8 @@ class ParcoursMorceaux {
   Sortie sortie_;
   SuiviProgression progression_;
   PassageProprietes proprietes_;
+  OriginesMorceau* origines_ = nullptr;
+  std::vector<std::size_t> debutsPieces_;  // where each piece starts in the template, when followed
 };
 
 // The whole text of a template or document; std::nullopt, after the box

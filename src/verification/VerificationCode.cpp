@@ -41,7 +41,7 @@ std::string Lignes(const std::vector<int>& lignes) {
 // A box as one line of the report.
 std::string LigneMessage(const std::string& texte, const std::string& conseil) {
   std::string ligne = conseil.empty() ? texte : texte + " " + conseil;
-  return Trim(RemplacerTout(ligne, "\n", " "));
+  return Trim(RemplacerTout(RemplacerTout(ligne, " \n", "\n"), "\n", " "));
 }
 
 // The code behind a "si(...)alors:" prefix; the interpreter itself tells a
@@ -99,7 +99,7 @@ CodeVerifie VerificateurCode::Verifier(std::string_view tranche) {
   NettoyerCode(code);
   resultat.code = Cp1252VersUtf8(std::string(kMarqueDebut) + code + std::string(kMarqueFin));
   std::string texte(tranche);
-  InterpreterPortion(g_, texte, true);
+  dernierResultat_ = InterpreterPortion(g_, texte, true);
   if (texte != tranche) resultat.valeur = Cp1252VersUtf8(Trim(RemplacerTout(texte, "\\par ", " ")));
   VerifierDecodeurs(code);
   resultat.sens = messages_.sens;

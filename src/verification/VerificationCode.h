@@ -3,6 +3,7 @@
 // decoders of the generator on the code behind its condition.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -74,12 +75,16 @@ class VerificateurCode {
       : g_(generation), messages_(messages), graphiques_(nullptr) {}
   // `tranche`: the code with its marks, as the generator cuts it (Windows-1252).
   CodeVerifie Verifier(std::string_view tranche);
+  // What the interpretation of the last code returned: 0 after a false
+  // condition, which hides what follows as in generation.
+  int16_t DernierResultat() const { return dernierResultat_; }
 
  private:
   void VerifierDecodeurs(std::string code);
 
   Generation& g_;
   MessagesEnregistres& messages_;
+  int16_t dernierResultat_ = -1;
   GraphiquesGeneration graphiques_;  // no drawer: a graph code is read and its series filled, nothing drawn
 };
 

@@ -1,59 +1,71 @@
-#include "template/SeriesFormules.h"
 #include "verification/VerificationModele.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "frame/Encodage.h"
-#include "frame/Texte.h"
 #include "study/DossierGeneral.h"
 #include "template/Morceaux.h"
-#include "template/Textes.h"
+#include "template/ParcoursCreation.h"
+#include "template/SeriesFormules.h"
 
 namespace norvane {
 namespace {
 
-// A start mark with no end mark behind it: the generator's own words, and
-// the excerpt it shows.
-CodeVerifie SansBaliseDeFin(std::string_view reste) {
-  CodeVerifie c;
-  const std::string extrait = reste.size() < 66 ? std::string(reste) : std::string(reste.substr(0, 62)) + "...";
-  c.code = Cp1252VersUtf8(extrait);
-  c.statut = Statut::Erreur;
-  c.message =
-      "Norvane ne trouve pas la balise de fin d'un code à interpréter dans le modèle de document utilisé pour la "
-      "création.";
-  return c;
-}
+// The walk of creation, each code checked instead of interpreted and placed
+// where it stood in the template: the checker meets the codes that
+// generation meets, glued, repaired and cut as generation has them.
+class ParcoursVerification : public ParcoursCreation {
+ public:
+  ParcoursVerification(Generation& generation, ModeleDecoupe decoupe, MessagesEnregistres& messages,
+                       const PlacesModele& places)
+      : ParcoursCreation(generation, std::move(decoupe), std::string()),
+        messages_(messages),
+        verificateur_(generation, messages),
+        places_(places) {
+    SuivreOrigines(suivi_);
+  }
+
+  std::vector<CodeVerifie> codes;
+
+ protected:
+  int16_t Interpreter(std::string& code, std::size_t debut) override {
+    codes.push_back(verificateur_.Verifier(code));
+    codes.back().place = places_.Situer(suivi_.Origine(debut));
+    return verificateur_.DernierResultat();
+  }
+
+  // The box of generation, recorded as the fault of the code it names.
+  void SignalerSansFin(const std::string& extrait, std::size_t debut) override {
+    messages_.Vider();
+    ParcoursCreation::SignalerSansFin(extrait, debut);
+    CodeVerifie c;
+    c.place = places_.Situer(suivi_.Origine(debut));
+    c.code = Cp1252VersUtf8(extrait);
+    c.statut = Statut::Erreur;
+    c.message = MessagesEnregistres::Joindre(messages_.fautes);
+    codes.push_back(std::move(c));
+  }
+
+ private:
+  MessagesEnregistres& messages_;
+  VerificateurCode verificateur_;
+  const PlacesModele& places_;
+  OriginesMorceau suivi_;
+};
 
 }  // namespace
 
 std::vector<CodeVerifie> VerifierModele(Session& session, const EntitesCourantes& entites, std::string_view contenu) {
-  // The pieces the generator reads, glued back: a code torn across lines or
-  // pieces is whole in it, as the gluing of the generator makes it.
-  std::string texte;
-  for (const std::string& morceau : DecouperEnMorceaux(contenu).morceaux) texte += morceau;
   const PlacesModele places(contenu);
-
   MessagesEnregistres messages;
   ProgressionMuette progression;
   Generation generation(session, messages, progression, entites);
   ChargerInfoDossier(generation.session);
   messages.syntaxeSeule = !DossierChoisi(session);
-  VerificateurCode verificateur(generation, messages);
-
-  std::vector<CodeVerifie> codes;
-  for (std::size_t p = ChercherSansCasse(texte, kMarqueDebut); p != std::string::npos;) {
-    const std::size_t fin = texte.find(kMarqueFin, p + kMarqueDebut.size());
-    if (fin == std::string::npos) {
-      codes.push_back(SansBaliseDeFin(std::string_view(texte).substr(p)));
-      codes.back().place = places.Situer(p);
-      break;
-    }
-    codes.push_back(verificateur.Verifier(std::string_view(texte).substr(p, fin + kMarqueFin.size() - p)));
-    codes.back().place = places.Situer(p);
-    p = ChercherSansCasse(texte, kMarqueDebut, fin + kMarqueFin.size());
-  }
-  return codes;
+  ParcoursVerification parcours(generation, DecouperEnMorceaux(contenu), messages, places);
+  parcours.Executer();
+  return std::move(parcours.codes);
 }
 
 std::size_t Nombre(const std::vector<CodeVerifie>& codes, Statut statut) {

@@ -108,6 +108,53 @@ TEST(VerificationModele, ExampleTemplatesCheckCleanAndGenerateSilently) {
   EXPECT_GE(modeles, 5u);
 }
 
+// The checker takes the walk of generation: a code in the property block is
+// passed over, a bookmark inside a start mark moved out, a paragraph mark cut
+// after a false condition with the character behind it; and every code is
+// still placed where it stood in the file, whatever the font table, the cut
+// or the gluing moved.
+TEST(VerificationModele, TheCheckerMeetsTheCodesThatGenerationMeets) {
+  Session session;
+  const EntitesCourantes entites;
+  const std::string contenu =
+      "{\\rtf1{\\fonttbl{\\f0 Arial;}}{\\info{\\title #tvl(motDuTitre)#}{\\author A}}\r\n"
+      "X #tvl{\\*\\bkmkend DDE_LINK1}(nomExploit)# #tvl(si(0<>0)alors:nomExploit)# Y\\par#tvl(cache)# \\par\r\n"
+      "Z #tvl(nom\r\nSociete)# #tvl(motInconnu)#\\par}";
+  const auto codes = VerifierModele(session, entites, contenu);
+  ASSERT_EQ(codes.size(), 4u);
+  const std::pair<std::string, int> attendus[] = {
+      {"#tvl(nomExploit)#", 3}, {"#tvl(si(0<>0)alors:nomExploit)#", 43}, {"#tvl(nomSociete)#", 3}, {"#tvl(motInconnu)#", 11}};
+  const int lignes[] = {2, 2, 3, 4};
+  for (std::size_t i = 0; i < codes.size(); ++i) {
+    EXPECT_EQ(codes[i].code, attendus[i].first) << i;
+    EXPECT_EQ(codes[i].place.ligne, lignes[i]) << i;
+    EXPECT_EQ(codes[i].place.colonne, attendus[i].second) << i;
+  }
+  EXPECT_EQ(codes[3].statut, Statut::Erreur);
+  EXPECT_EQ(Nombre(codes, Statut::Erreur), 1u);
+}
+
+// A start mark whose end mark lies beyond a long line is told as generation
+// tells it, and the walk goes on, as generation does, to the codes behind.
+TEST(VerificationModele, TheWalkGoesOnPastACodeWithoutItsEndMark) {
+  Session session;
+  const EntitesCourantes entites;
+  const std::string longue(25000, 'x');
+  const std::string contenu = "{\\rtf1\r\n" + std::string(1200, 'y') + "A #tvl(nomExploit\\par\r\n" + longue +
+                              "\r\n" + longue + "\r\nB #tvl(motInconnu)# #tvl(nomSociete)#\\par\r\n}\r\n";
+  const auto codes = VerifierModele(session, entites, contenu);
+  ASSERT_EQ(codes.size(), 3u);
+  EXPECT_EQ(codes[0].code, "#tvl(nomExploit\\par");
+  EXPECT_NE(codes[0].message.find("ne trouve pas la balise de fin"), std::string::npos);
+  EXPECT_EQ(codes[0].place.ligne, 2);
+  EXPECT_EQ(codes[0].place.colonne, 1203);
+  // The outer mark stays in the text, so the unknown word is met inside it.
+  EXPECT_NE(codes[1].message.find("\"motInconnu\" dans le modèle est inconnue"), std::string::npos);
+  EXPECT_EQ(codes[2].code, "#tvl(nomSociete)#");
+  EXPECT_EQ(codes[2].place.ligne, 5);
+  EXPECT_EQ(codes[2].place.colonne, 21);
+}
+
 // Without a dossier only the syntax counts: a formula over series is valid,
 // an unknown word is still a fault.
 TEST(VerificationModele, WithoutADossierOnlyTheSyntaxCounts) {
