@@ -10,9 +10,11 @@
 namespace norvane {
 
 std::optional<std::string> TableauCerfa(ContexteTableau& contexte, const std::string& debutLigne,
-                                        double& totalGeneral) {
+                                        ProducteursCerfa& producteurs) {
   const DefinitionLue definition = LireDefinition(contexte.LigneEnCours().Definition.Texte);
   const std::string cle = LireReferenceDecimales(definition.reste).reference.substr(0, 5);
+  double& totalGeneral = producteurs.TotalGeneral;
+  if (cle == "inve1") return TableauInvestissements(contexte, debutLigne, producteurs.ImmoCourant);
   if (cle == "finap") return TableauFinancement(OuvrirTableCerfa(contexte, debutLigne), totalGeneral);
   if (cle == "finan" || cle == "finaa") {
     return TableauFinancementAnnuel(OuvrirTableCerfa(contexte, debutLigne), cle[4] == 'a', totalGeneral);
@@ -24,9 +26,15 @@ std::optional<std::string> TableauCerfa(ContexteTableau& contexte, const std::st
 std::string ProducteursCerfa::LignesPredefinies(ContexteTableau& contexte, std::string_view sorte,
                                                 const std::string& debutLigne) {
   if (sorte == "imemp") {
-    if (std::optional<std::string> rtf = TableauCerfa(contexte, debutLigne, TotalGeneral)) return *rtf;
+    if (std::optional<std::string> rtf = TableauCerfa(contexte, debutLigne, *this)) return *rtf;
   }
   return ProducteursTables::LignesPredefinies(contexte, sorte, debutLigne);
+}
+
+std::string ProducteursCerfa::ValeurSpeciale(ContexteTableau& contexte, std::string_view sorte,
+                                             const std::string& reste, int c) {
+  if (sorte == "imemp") return ValeurCerfa(ImmoCourant, reste, c);
+  return ProducteursTables::ValeurSpeciale(contexte, sorte, reste, c);
 }
 
 }  // namespace norvane

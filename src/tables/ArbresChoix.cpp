@@ -17,8 +17,8 @@ struct Groupe {
   std::vector<Feuille> feuilles;
 };
 
-void AjouterGroupe(std::vector<NoeudArbre>& noeuds, const Groupe& groupe) {
-  noeuds.push_back({groupe.cle, groupe.texte, "rep", ""});
+void AjouterGroupe(std::vector<NoeudArbre>& noeuds, const Groupe& groupe, const char* parent = "") {
+  noeuds.push_back({groupe.cle, groupe.texte, "rep", parent});
   for (const Feuille& f : groupe.feuilles) {
     noeuds.push_back({f.reference, f.texte != nullptr ? f.texte : f.reference, "puce", groupe.cle});
   }
@@ -27,6 +27,19 @@ void AjouterGroupe(std::vector<NoeudArbre>& noeuds, const Groupe& groupe) {
 std::vector<NoeudArbre> Arbre(const std::vector<Groupe>& groupes) {
   std::vector<NoeudArbre> noeuds;
   for (const Groupe& groupe : groupes) AjouterGroupe(noeuds, groupe);
+  return noeuds;
+}
+
+// A tree whose groups nest: each group under the group keyed `parent`
+// ("" at the top), listed after it.
+struct GroupeImbrique {
+  const char* parent;
+  Groupe groupe;
+};
+
+std::vector<NoeudArbre> ArbreImbrique(const std::vector<GroupeImbrique>& groupes) {
+  std::vector<NoeudArbre> noeuds;
+  for (const auto& [parent, groupe] : groupes) AjouterGroupe(noeuds, groupe, parent);
   return noeuds;
 }
 
@@ -261,6 +274,138 @@ std::vector<NoeudArbre> ArbreSeriesCulturePerenne() {
       {"Investissements", "Investissements",
        {{"Implantation", "@36"}, {nullptr, "@37"}, {nullptr, "@38"}, {"Total investissements", "@40"}}},
       {"Subventions", "Subventions", {{nullptr, "@39"}, {nullptr, "@30"}, {nullptr, "@31"}}},
+  });
+}
+
+// The records of a module's series file (AL<nn>AL.don) by theme. The leaves
+// "Produit ", "Vente produit " and the like name no record of their own.
+std::vector<NoeudArbre> ArbreSeriesActivite() {
+  return ArbreImbrique({
+      {"", {"inventaire", "Valeur d'inventaire",
+            {{"Valeur d'inventaire femelle adulte", "@24"},
+             {"Valeur d'inventaire mâle adulte", "@25"},
+             {"Valeur d'inventaire renouvellement + 2 ans", "@26"},
+             {"Valeur d'inventaire renouvellement 1 à 2 ans", "@27"},
+             {"Valeur d'inventaire renouvellement - 1 an", "@28"},
+             {"Valeur d'inventaire femelle - 1 an", "@49"},
+             {"Valeur d'inventaire femelle 1 à 2 ans", "@50"},
+             {"Valeur d'inventaire femelle 2 à 3 ans", "@51"},
+             {"Valeur d'inventaire femelle + 3 ans", "@52"},
+             {"Valeur d'inventaire mâle - 1 ans", "@100"},
+             {"Valeur d'inventaire mâle 1 à 2 ans", "@101"},
+             {"Valeur d'inventaire mâle 2 à 3 ans", "@102"},
+             {"Valeur d'inventaire mâle + 3 ans", "@103"}}}},
+      {"", {"effectif", "Effectifs", {}}},
+      {"effectif", {"effrepro", "Reproducteurs",
+                    {{"Achat renouvellement", "@15"},
+                     {"Achat repro femelle", ""},
+                     {"Achat repro mâle", "@322"},
+                     {"Femelle eff. début", ""},
+                     {"Mâle eff. début", ""},
+                     {"Femelle eff. fin", ""},
+                     {"Mâle eff. fin", "@323"},
+                     {"Femelle eff. moyen", "@16"},
+                     {"Stock + 2 ans renouv.", "@10"},
+                     {"Stock 1 à 2 ans renouv.", "@11"},
+                     {"Stock 1 an renouv.", "@12"},
+                     {"Vente renouvellement", "@14"},
+                     {"Vente repro femelles", "@17"},
+                     {"Vente repro mâles", "@321"}}}},
+      {"effectif", {"femelles", "Femelles",
+                    {{"Achat ani. ", ""},
+                     {"Total Achat", "@66"},
+                     {"Stock -1 an", "@67"},
+                     {"Stock 1 à 2 ans", "@68"},
+                     {"Stock 2 à 3 ans", "@69"},
+                     {"Stock +3 ans", "@70"},
+                     {"Vente ani. ", ""},
+                     {"Total Vente", "@81"}}}},
+      {"effectif", {"effmales", "Mâles",
+                    {{nullptr, "@117"}, {"Stock - 1 an", "@118"}, {nullptr, "@119"}, {nullptr, "@120"},
+                     {nullptr, "@121"}, {nullptr, "@132"}}}},
+      {"", {"ugb", "U.G.B",
+            {{"UGB Reproducteurs", "@156"}, {"UGB Femelles", "@157"}, {"UGB Mâles", "@158"}, {"UGB", "@159"}}}},
+      {"", {"criteres", "Critères techniques", {}}},
+      {"criteres", {"product", "Productions", {{"Produit ", ""}}}},
+      {"criteres", {"consorepro", "Conso Reproducteurs",
+                    {{"Céréales kg / femelle", "@161"},
+                     {"Aliments kg / femelle", "@162"},
+                     {"Céréales kg / mâle", "@163"},
+                     {"Aliments kg / mâle", "@164"}}}},
+      {"criteres", {"consorenou", "Conso Renouvellement",
+                    {{"Céréales ani. + 3 ans", "@332"},
+                     {"Céréales ani. 1 à 2 ans", "@333"},
+                     {"Céréales ani. - 1 an", "@334"},
+                     {"Aliments 1 (kg)", "@341"},
+                     {"Aliments 2 (kg)", "@345"}}}},
+      {"criteres", {"consofemel", "Consommation Femelles",
+                    {{"Céréales (kg)", "@174"}, {"Aliments - 1 an (kg)", "@175"}, {"Aliments Autres (kg)", "@176"}}}},
+      {"criteres", {"consomales", "Consommation Mâles", {{nullptr, "@177"}, {nullptr, "@178"}, {nullptr, "@179"}}}},
+      {"criteres", {"consototal", "Consommation Totale",
+                    {{"Céréales (qx)", "@180"},
+                     {"Aliments repro (kg)", "@181"},
+                     {nullptr, "@182"},
+                     {nullptr, "@183"},
+                     {nullptr, "@184"},
+                     {"Aliments autres (kg)", "@185"}}}},
+      {"", {"marge", "Marge", {}}},
+      {"marge", {"produit", "Produit",
+                 {{"Ventes femelle", "@194"},
+                  {"Ventes mâle", "@195"},
+                  {"Achats reproducteurs", "@428"},
+                  {"Vente femelles renouvellement", "@382"},
+                  {"Achats femelles renouvellement", "@429"},
+                  {"Produits - 1 an", "@197"},
+                  {"Produits 1 à 2 ans", "@198"},
+                  {"Produits 2 à 3 ans", "@199"},
+                  {"Produits + 3 ans", "@200"},
+                  {"Achats femelles", "@203"},
+                  {"Achats mâles", "@204"},
+                  {"Produits annexes", "@201"},
+                  {"Quantité 1", "@368"},
+                  {"Quantité 2", "@371"},
+                  {"Quantité 3", "@373"},
+                  {"Total primes", "@377"},
+                  {"Produits", "@212"},
+                  {"Produits / UGB", "@213"}}}},
+      {"marge", {"charges", "Charges",
+                 {{"Céréales", "@214"},
+                  {"Aliments", "@215"},
+                  {"Autres aliments (C.M.V)", "@216"},
+                  {"Total aliments", "@217"},
+                  {"Frais véto", "@218"},
+                  {"Frais élevage", "@219"},
+                  {nullptr, "@220"},
+                  {"Charges / UGB", "@221"},
+                  {nullptr, "@222"},
+                  {"Marge / UGB", "@223"}}}},
+      {"", {"prix", "Prix", {}}},
+      {"prix", {"vente", "Vente",
+                {{"Vente réformes (", "@247"},
+                 {"Vente mâle (", "@249"},
+                 {"Vente - 1 an (", "@254"},
+                 {"Vente 1 à 2 ans (", "@255"},
+                 {"Vente 2 à 3 ans (", "@256"}}}},
+      {"prix", {"achat", "Achat",
+                {{"Achat femelle (", "@248"},
+                 {"Achat mâle (", "@250"},
+                 {"Achat - 1 an (", "@251"},
+                 {"Achat 1 à 2 ans (", "@252"},
+                 {"Achat 2 à 3 ans (", "@253"}}}},
+      {"prix", {"venteprod", "Vente Produits", {{"Vente produit ", ""}}}},
+      {"prix", {"ventefemel", "Vente Femelle", {{"Vente femelle ", ""}}}},
+      {"prix", {"achatfemel", "Achat Femelle", {{"Achat femelle ", ""}}}},
+      {"prix", {"ventemale", "Vente Mâle", {{"Vente mâle ", ""}}}},
+      {"prix", {"achatmale", "Achat Mâle", {{"Achat mâle ", ""}}}},
+      {"prix", {"divers", "Divers",
+                {{"Frais véto (", "@297"},
+                 {"Frais d'élevage (", "@298"},
+                 {"Autres aliments (CMV) (", "@299"},
+                 {nullptr, "@300"},
+                 {"Aliments 1", "@301"},
+                 {"Aliments 2", "@302"},
+                 {"Aliments - 1 an", "@303"},
+                 {"Aliments autres", "@304"}}}},
   });
 }
 

@@ -1,6 +1,7 @@
 // The choice trees of the table editor, as data: the generic tables (line
 // kind "Lignes pré-définies"), the value names of a crop block, and the
-// series of a crop and of a perennial crop (line kinds scult and scltp).
+// series of a crop, a perennial crop and a free activity (line kinds scult,
+// scltp and ALani).
 // Nodes come parent first; texts are UTF-8, keys ASCII. Groups have the
 // image "rep", leaves "puce".
 #pragma once
@@ -35,5 +36,10 @@ std::vector<NoeudArbre> ArbreSeriesCulture();
 // Series of the current perennial crop (scltp), by group. A leaf whose
 // reference is not known has the key "" and cannot be chosen.
 std::vector<NoeudArbre> ArbreSeriesCulturePerenne();
+// Series of the current free activity (ALani): groups and sub-groups keyed
+// in lower case, leaves keyed by their record ("@16"), the same rule for
+// leaves without a record. A text that ends open ("Vente réformes (") is
+// shown as it stands.
+std::vector<NoeudArbre> ArbreSeriesActivite();
 
 }  // namespace norvane

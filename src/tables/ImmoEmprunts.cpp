@@ -16,9 +16,14 @@
 //   100    4        LSM
 //   104    10       kept
 //   114    2 x 8    the two halves of the capital gain, 64-bit floats
-//   130    26 x 10  kept (texts)
-//   390    2706     yearly schedule, kept
+//   130    26 x 10  kept (texts, one per exercise 0 to 25)
+//   390    26 x 4   MontantsAnnuels(0..25): the amount of each exercise
+//   494    2602     rest of the yearly schedule, kept
 //
+// The yearly schedule that starts at 390 opens with the amounts of the item
+// by exercise, 0 to 25, as 32-bit floats like every other amount of the
+// record: one per exercise, as the 26 texts before it are. What the schedule
+// holds past these 104 bytes is not read.
 // Emprunt.emp, loans, records of 1096 bytes:
 //
 //   OFFSET SIZE     MEANING
@@ -91,10 +96,12 @@ constexpr ChampDisposition LSM{"LSM", 100, 4};
 constexpr ChampDisposition Garde104{"(104)", 104, 10};
 constexpr ChampDisposition PlusValues{"PlusValues", 114, 8, 2};
 constexpr ChampDisposition Garde130{"(130)", 130, 10, 26};
-constexpr ChampDisposition Echeancier{"(390)", 390, 2706};
-constexpr ChampDisposition kChamps[] = {Nouveau, Garde4,        TypeImmo,  Libelle, DateRealisation, Montant,
-                                        Duree,   TypeAmort,     DateRevente, MontantRevente, NumEntreePlan,
-                                        Differe, LSM,           Garde104,  PlusValues, Garde130, Echeancier};
+constexpr ChampDisposition MontantsAnnuels{"MontantsAnnuels", 390, 4, kExercicesImmo};
+constexpr ChampDisposition Garde494{"(494)", 494, 2602};
+constexpr ChampDisposition kChamps[] = {Nouveau,  Garde4,    TypeImmo,   Libelle,  DateRealisation, Montant,
+                                        Duree,    TypeAmort, DateRevente, MontantRevente, NumEntreePlan,
+                                        Differe,  LSM,       Garde104,   PlusValues, Garde130, MontantsAnnuels,
+                                        Garde494};
 static_assert(PaveEnregistrement(kChamps, kLongueurImmo), "an asset record's fields tile 3096 bytes");
 }  // namespace immo
 
@@ -198,6 +205,8 @@ FicheImmo DecoderImmo(std::string_view octets) {
   l.Aller(immo::PlusValues.debut);
   l.Lire(f.PlusValues[0]);
   l.Lire(f.PlusValues[1]);
+  l.Aller(immo::MontantsAnnuels.debut);
+  for (std::size_t n = 0; n < kExercicesImmo; ++n) l.Lire(f.MontantsAnnuels[n], immo::MontantsAnnuels, n);
   return f;
 }
 

@@ -21,6 +21,8 @@ inline constexpr std::size_t kLongueurEmprunt = 1096;
 inline constexpr std::size_t kLongueurPlan = 116;
 inline constexpr std::size_t kFichesPlan = 20;
 inline constexpr std::size_t kExercicesEmprunt = 27;
+// Exercises 0 to 25 of an asset's yearly amounts.
+inline constexpr std::size_t kExercicesImmo = 26;
 
 // A fixed asset (Immo.imm) or a grant (Sub.sub).
 struct FicheImmo {
@@ -37,6 +39,7 @@ struct FicheImmo {
   float Differe = 0;
   float LSM = 0;
   std::array<double, 2> PlusValues{};  // the two halves of the capital gain
+  std::array<float, kExercicesImmo> MontantsAnnuels{};  // exercise n at index n
 };
 
 struct FicheEmprunt {

@@ -42,9 +42,7 @@ class LigneRemplacee {
 
 // The row of the line with `libelle` in its first label cell.
 std::string Rangee(ContexteTableau& contexte, const std::string& debut, const std::string& libelle) {
-  LigneRemplacee remplacee(contexte);
-  remplacee.ligne().Cellules[0].Texte = libelle;
-  std::string rtf = LigneOrdinaire(contexte, debut);
+  std::string rtf = LigneOrdinaire(contexte, debut, libelle);
   return rtf == kValeursNulles ? std::string() : rtf;
 }
 

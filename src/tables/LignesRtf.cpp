@@ -41,7 +41,11 @@ std::pair<int, int> EnregistrementsPrimes(std::string_view item) {
 
 }  // namespace
 
-std::string LigneOrdinaire(ContexteTableau& contexte, const std::string& entete) {
+namespace {
+
+// The row of the line in hand; `premierLibelle`, when given, replaces the
+// text of its first label cell.
+std::string Ligne(ContexteTableau& contexte, const std::string& entete, const std::string* premierLibelle) {
   const LigneTableau& ligne = contexte.LigneEnCours();
   std::string debut = entete;
   std::string cellules;
@@ -49,7 +53,9 @@ std::string LigneOrdinaire(ContexteTableau& contexte, const std::string& entete)
   for (int k = 0; k < NombreColonnes(contexte.modele); ++k) {
     const CelluleTableau& cellule = ligne.Cellules[static_cast<std::size_t>(k)];
     std::string texte = TrimDroite(cellule.Texte);
-    if (k == 0 && CommencePar(ligne.Definition.Texte, "scult") && contexte.modele.StyleTitre == 1) {
+    if (k == 0 && premierLibelle != nullptr) {
+      texte = *premierLibelle;
+    } else if (k == 0 && CommencePar(ligne.Definition.Texte, "scult") && contexte.modele.StyleTitre == 1) {
       texte = contexte.tableaux.producteurs.LibelleSerieCulture(contexte,
                                                                contexte.generation.entites->NomCultureCourante());
     }
@@ -65,6 +71,16 @@ std::string LigneOrdinaire(ContexteTableau& contexte, const std::string& entete)
   debut += cellules;
   debut += kFinLigne;
   return debut;
+}
+
+}  // namespace
+
+std::string LigneOrdinaire(ContexteTableau& contexte, const std::string& entete) {
+  return Ligne(contexte, entete, nullptr);
+}
+
+std::string LigneOrdinaire(ContexteTableau& contexte, const std::string& entete, const std::string& premierLibelle) {
+  return Ligne(contexte, entete, &premierLibelle);
 }
 
 std::string LigneEspace(ContexteTableau& contexte) {

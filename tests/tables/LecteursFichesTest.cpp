@@ -5,6 +5,7 @@
 #include "construction/FichiersIni.h"
 #include "construction/FichiersTableaux.h"
 #include "frame/Encodage.h"
+#include "frame/LecteurBinaire.h"
 #include "frame/Texte.h"
 #include "support/DossierTemporaire.h"
 #include "support/PortsScriptes.h"
@@ -86,6 +87,8 @@ TEST(ImmoEmprunts, AnAssetReadsBackFieldByField) {
   i.LSM = -5;
   i.PlusValue1 = 100.5;
   i.PlusValue2 = 20;
+  i.MontantsAnnuels[0] = 7;
+  i.MontantsAnnuels[25] = 2500;
   const FicheImmo f = DecoderImmo(c::OctetsImmobilisation(i));
   EXPECT_EQ(f.Nouveau, 1);
   EXPECT_EQ(f.TypeImmo, 4);
@@ -100,6 +103,19 @@ TEST(ImmoEmprunts, AnAssetReadsBackFieldByField) {
   EXPECT_EQ(f.Differe, 1);
   EXPECT_EQ(f.LSM, -5);
   EXPECT_EQ(f.PlusValues[0] + f.PlusValues[1], 120.5);
+  EXPECT_EQ(f.MontantsAnnuels[0], 7);
+  EXPECT_EQ(f.MontantsAnnuels[1], 0);
+  EXPECT_EQ(f.MontantsAnnuels[25], 2500);
+}
+
+TEST(ImmoEmprunts, TheYearlyAmountsOpenTheScheduleAtByte390OneFloatAnExercise) {
+  std::string octets(kLongueurImmo, '\0');
+  std::string montant;
+  EcrireFlottant(montant, 12.5f);
+  octets.replace(390 + 4 * 3, 4, montant);
+  octets.replace(390 + 4 * 26, 4, montant);  // past exercise 25: not an amount
+  const FicheImmo f = DecoderImmo(octets);
+  for (std::size_t n = 0; n < kExercicesImmo; ++n) EXPECT_EQ(f.MontantsAnnuels[n], n == 3 ? 12.5f : 0.0f) << n;
 }
 
 TEST(ImmoEmprunts, ALoanReadsBackFieldByField) {

@@ -133,6 +133,7 @@ Immobilisation ImmobilisationDe(ObjetJson& i, const char* cleDate) {
   r.LSM = i.Flottant("LSM");
   r.PlusValue1 = i.Double("PlusValue1");
   r.PlusValue2 = i.Double("PlusValue2");
+  r.MontantsAnnuels = i.Flottants<26>("MontantsAnnuels");
   return r;
 }
 

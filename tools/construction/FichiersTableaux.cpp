@@ -63,7 +63,7 @@ void EcrireCulturesPerennes(const std::string& chemin, const std::vector<Culture
 }
 
 // Kept: two floats at 4, 10 bytes at 104, 26 texts of 10 at 130 (blanks), the
-// yearly schedule from 390 (zeros).
+// rest of the yearly schedule after its amounts, from 494 (zeros).
 std::string OctetsImmobilisation(const Immobilisation& i) {
   EnregistrementFixe e(kLongueurImmobilisation);
   e.Flottant(0, i.Nouveau)
@@ -81,6 +81,7 @@ std::string OctetsImmobilisation(const Immobilisation& i) {
       .Double(114, i.PlusValue1)
       .Double(122, i.PlusValue2)
       .Blancs(130, 26 * 10);
+  for (std::size_t n = 0; n < i.MontantsAnnuels.size(); ++n) e.Flottant(390 + 4 * n, i.MontantsAnnuels[n]);
   return e.Octets();
 }
 

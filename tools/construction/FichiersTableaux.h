@@ -76,6 +76,7 @@ struct Immobilisation {
   float LSM = 0;
   double PlusValue1 = 0;  // the two halves of the capital gain
   double PlusValue2 = 0;
+  std::array<float, 26> MontantsAnnuels{};  // amounts of exercises 0 to 25, from offset 390
 };
 constexpr std::size_t kLongueurImmobilisation = 3096;
 std::string OctetsImmobilisation(const Immobilisation& immobilisation);
