@@ -2,6 +2,7 @@
 // code of each model as it goes into a template.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -43,9 +44,48 @@ TEST(Modeles, ListsTheTreeOfTheTableStore) {
       << e.sortie;
 }
 
+TEST(Modeles, TheSpecialTablesHaveTheirFolders) {
+  const Execution e = Lancer("MODELES");
+  EXPECT_NE(e.sortie.find("\n  Cultures\n    Assolement par type de culture\n    Une fiche par culture\n"
+                          "      Fiche de culture\n      Fiche de culture pérenne\n"
+                          "  Activités libres\n    Fiche d'activité animale\n"
+                          "  PDE Cerfa\n    Plan de financement sur cinq exercices\n"),
+            std::string::npos)
+      << e.sortie;
+  EXPECT_NE(e.sortie.find("\n    Immobilisations, subventions, emprunts\n      Immobilisations anciennes et nouvelles\n"),
+            std::string::npos)
+      << e.sortie;
+}
+
+// The text of a template with its escaped bytes (\'e9) put back.
+std::string TexteModele(const std::filesystem::path& chemin) {
+  std::ifstream flux(chemin, std::ios::binary);
+  std::stringstream contenu;
+  contenu << flux.rdbuf();
+  const std::string rtf = contenu.str();
+  std::string texte;
+  for (std::size_t i = 0; i < rtf.size(); ++i) {
+    if (rtf.compare(i, 2, "\\'") == 0 && i + 3 < rtf.size()) {
+      texte += static_cast<char>(std::stoi(rtf.substr(i + 2, 2), nullptr, 16));
+      i += 3;
+    } else {
+      texte += rtf[i];
+    }
+  }
+  return Cp1252VersUtf8(texte);
+}
+
+TEST(Modeles, EachExampleModelIsTheCodeOfAnExampleTemplate) {
+  std::string modeles;
+  for (const auto& entree : std::filesystem::directory_iterator(std::string(NORVANE_SOURCE_DIR) + "/exemple/modeles")) {
+    if (entree.path().extension() == ".tvm") modeles += TexteModele(entree.path());
+  }
+  for (const auto& [nom, code] : ModelesExemple()) EXPECT_NE(modeles.find(code), std::string::npos) << nom;
+}
+
 TEST(Modeles, PrintsTheCodeOfEachExampleModel) {
   const auto modeles = ModelesExemple();
-  ASSERT_GE(modeles.size(), 12u);
+  ASSERT_EQ(modeles.size(), 26u);
   for (const auto& [nom, code] : modeles) {
     const Execution e = Lancer("MODELES tableaux " + Guillemets(nom));
     EXPECT_EQ(e.statut, 0) << nom;
