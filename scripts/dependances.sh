@@ -6,7 +6,7 @@ paquets=(
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   nlohmann-json3-dev
   libreoffice-writer-nogui libreoffice-dev poppler-utils fonts-dejavu-core fonts-liberation2
-  qt6-base-dev zlib1g-dev
+  qt6-base-dev libdeflate-dev
 )
 manquants=()
 for p in "${paquets[@]}"; do

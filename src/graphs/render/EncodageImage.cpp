@@ -1,6 +1,6 @@
 #include "graphs/render/EncodageImage.h"
 
-#include <zlib.h>
+#include <libdeflate.h>
 
 #include <algorithm>
 #include <cmath>
@@ -28,44 +28,52 @@ void AjouterBloc(std::string& png, const char* type, const std::string& donnees)
   const std::size_t debut = png.size();
   png += type;
   png += donnees;
-  const auto* octets = reinterpret_cast<const Bytef*>(png.data() + debut);
-  AjouterGrosBout(png, static_cast<uint32_t>(crc32(0, octets, static_cast<uInt>(png.size() - debut))));
+  AjouterGrosBout(png, libdeflate_crc32(0, png.data() + debut, png.size() - debut));
 }
 
-// Compresses the rows of a picture one by one into a zlib stream, so that
-// no buffer of the whole picture is ever made: big fresh buffers cost more
-// in page faults than the compression itself.
-class Compresseur {
- public:
-  Compresseur() { pret_ = deflateInit2(&flux_, 1, Z_DEFLATED, 15, 9, Z_DEFAULT_STRATEGY) == Z_OK; }
-  ~Compresseur() {
-    if (pret_) deflateEnd(&flux_);
-  }
-  Compresseur(const Compresseur&) = delete;
-  Compresseur& operator=(const Compresseur&) = delete;
-
-  bool Ajouter(const unsigned char* octets, std::size_t taille, bool dernier) {
-    if (!pret_) return false;
-    flux_.next_in = const_cast<Bytef*>(octets);
-    flux_.avail_in = static_cast<uInt>(taille);
-    unsigned char tampon[1 << 15];
-    int etat = Z_OK;
-    do {
-      flux_.next_out = tampon;
-      flux_.avail_out = sizeof tampon;
-      etat = deflate(&flux_, dernier ? Z_FINISH : Z_NO_FLUSH);
-      if (etat == Z_STREAM_ERROR) return pret_ = false;
-      sortie_.append(reinterpret_cast<const char*>(tampon), sizeof tampon - flux_.avail_out);
-    } while (flux_.avail_out == 0 || (dernier && etat != Z_STREAM_END));
-    return true;
-  }
-  const std::string& Sortie() const { return sortie_; }
-
- private:
-  z_stream flux_{};
-  bool pret_ = false;
-  std::string sortie_;
+// The compressor and the buffers of filtered rows and of compressed bytes,
+// kept from one chart to the next of a thread: a fresh buffer of a few
+// megabytes costs more in page faults than its compression.
+// Level 2: level 1 of libdeflate takes another match finder, slower on the
+// long runs of a chart than level 2 for a bigger result.
+struct Atelier {
+  Atelier() : compresseur(libdeflate_alloc_compressor(2)) {}
+  ~Atelier() { libdeflate_free_compressor(compresseur); }
+  Atelier(const Atelier&) = delete;
+  Atelier& operator=(const Atelier&) = delete;
+  libdeflate_compressor* compresseur;
+  std::vector<unsigned char> rangs;
+  std::vector<unsigned char> sortie;
 };
+
+// The zlib stream of the picture's rows, each with the filter "Sub" (1):
+// each byte less the one of the pixel to its left, which turns the flat
+// colours of a chart into runs of zeros. Empty on failure.
+std::string CompresserRangs(const QImage& rgb) {
+  thread_local Atelier atelier;
+  if (atelier.compresseur == nullptr) return {};
+  const auto largeur = static_cast<std::size_t>(rgb.width());
+  const auto hauteur = static_cast<std::size_t>(rgb.height());
+  const std::size_t parRang = 1 + 3 * largeur;
+  atelier.rangs.resize(parRang * hauteur);
+  for (std::size_t y = 0; y < hauteur; ++y) {
+    const auto* pixels = reinterpret_cast<const QRgb*>(rgb.constScanLine(static_cast<int>(y)));
+    unsigned char* rang = atelier.rangs.data() + y * parRang;
+    rang[0] = 1;
+    QRgb avant = 0;
+    for (std::size_t x = 0; x < largeur; ++x) {
+      const QRgb p = pixels[x];
+      rang[1 + 3 * x] = static_cast<unsigned char>(qRed(p) - qRed(avant));
+      rang[2 + 3 * x] = static_cast<unsigned char>(qGreen(p) - qGreen(avant));
+      rang[3 + 3 * x] = static_cast<unsigned char>(qBlue(p) - qBlue(avant));
+      avant = p;
+    }
+  }
+  atelier.sortie.resize(libdeflate_zlib_compress_bound(atelier.compresseur, atelier.rangs.size()));
+  const std::size_t taille = libdeflate_zlib_compress(atelier.compresseur, atelier.rangs.data(), atelier.rangs.size(),
+                                                      atelier.sortie.data(), atelier.sortie.size());
+  return std::string(reinterpret_cast<const char*>(atelier.sortie.data()), taille);
+}
 
 // Dots an inch of one direction; the default when the picture gives none or
 // an unlikely one.
@@ -85,24 +93,7 @@ std::string EncoderPng(const QImage& image) {
   const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
   const auto largeur = static_cast<std::size_t>(rgb.width());
   const auto hauteur = static_cast<std::size_t>(rgb.height());
-  // Each row: the filter "Sub" (1), then each byte less the one of the pixel
-  // to its left, which turns the flat colours of a chart into runs of zeros.
-  std::vector<unsigned char> rang(1 + 3 * largeur);
-  Compresseur compresseur;
-  for (std::size_t y = 0; y < hauteur; ++y) {
-    const auto* pixels = reinterpret_cast<const QRgb*>(rgb.constScanLine(static_cast<int>(y)));
-    rang[0] = 1;
-    QRgb avant = 0;
-    for (std::size_t x = 0; x < largeur; ++x) {
-      const QRgb p = pixels[x];
-      rang[1 + 3 * x] = static_cast<unsigned char>(qRed(p) - qRed(avant));
-      rang[2 + 3 * x] = static_cast<unsigned char>(qGreen(p) - qGreen(avant));
-      rang[3 + 3 * x] = static_cast<unsigned char>(qBlue(p) - qBlue(avant));
-      avant = p;
-    }
-    if (!compresseur.Ajouter(rang.data(), rang.size(), y + 1 == hauteur)) return {};
-  }
-  const std::string& idat = compresseur.Sortie();
+  const std::string idat = CompresserRangs(rgb);
   if (idat.empty()) return {};
   std::string png("\x89PNG\r\n\x1a\n", 8);
   std::string entete;
