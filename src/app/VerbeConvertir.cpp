@@ -2,11 +2,12 @@
 // documents converted through one private LibreOffice, started once for the
 // whole list. A document that fails is named and the others go on; the exit
 // status says whether all were converted.
+#include "app/VerbeConvertir.h"
+
 #include <filesystem>
 #include <iostream>
 
 #include "app/EditeurLigneCommande.h"
-#include "app/Verbes.h"
 #include "frame/Encodage.h"
 #include "frame/ResolutionChemins.h"
 

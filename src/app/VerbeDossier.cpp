@@ -1,8 +1,9 @@
 // DOSSIER <dossier .TVL>: prints what a dossier holds (general record,
 // organisations, series files), to check a dossier from the terminal.
+#include "app/VerbeDossier.h"
+
 #include <iostream>
 
-#include "app/Verbes.h"
 #include "frame/Texte.h"
 #include "study/ApercuDossier.h"
 

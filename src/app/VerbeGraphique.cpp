@@ -2,13 +2,14 @@
 // draws one chart into a PNG file, from a code as it stands in a template or
 // from a model of graph.txt, with the dossier's values or, without a
 // dossier, the example values. Users check a chart with it, and so do tests.
+#include "app/VerbeGraphique.h"
+
 #include <iostream>
 #include <optional>
 #include <random>
 
 #include "app/ModelesGraphiques.h"
 #include "app/Travail.h"
-#include "app/Verbes.h"
 #include "frame/Encodage.h"
 #include "frame/Texte.h"
 #include "graphs/CodeGraphique.h"

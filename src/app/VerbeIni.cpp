@@ -1,8 +1,9 @@
 // INI <template> <result> [ouvrir] [remplacer]: a document made without a
 // dossier, so that only INI: codes and the like yield values.
+#include "app/VerbeIni.h"
+
 #include "app/EditeurLigneCommande.h"
 #include "app/Travail.h"
-#include "app/Verbes.h"
 #include "frame/LigneCommande.h"
 #include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"

@@ -5,13 +5,14 @@
 //                                        line, as it goes into a template
 //   norvane MODELES GRAPHIQUES "<titre>" the code of that graph model, likewise
 // Each store is one row of kMagasins: its tree, and the code of one model.
+#include "app/VerbeModeles.h"
+
 #include <iostream>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "app/ModelesGraphiques.h"
-#include "app/Verbes.h"
 #include "frame/Encodage.h"
 #include "frame/ResolutionChemins.h"
 #include "frame/Texte.h"

@@ -1,9 +1,10 @@
 // OUVRIR <dossier .TVL> <document>: a document of the dossier's folder opened
 // in the user's LibreOffice ("#tvl#" stands for a blank in both).
+#include "app/VerbeOuvrir.h"
+
 #include <iostream>
 
 #include "app/EditeurLigneCommande.h"
-#include "app/Verbes.h"
 #include "frame/Encodage.h"
 #include "frame/LigneCommande.h"
 #include "frame/ResolutionChemins.h"

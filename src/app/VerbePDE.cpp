@@ -4,10 +4,11 @@
 // answers yes (--reponse), over the years of the frame's years box
 // (--annees, "5" when not given). The rest is the ordinary creation of a
 // document, with its conversion to the result's format.
+#include "app/VerbePDE.h"
+
 #include <iostream>
 
 #include "app/Travail.h"
-#include "app/Verbes.h"
 #include "cerfa/ChoixPDE.h"
 #include "study/DossierGeneral.h"
 

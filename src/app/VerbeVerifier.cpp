@@ -1,9 +1,10 @@
 // VERIFIER <modèle.tvm> [<dossier .TVL>] [--format=json]: every code of a
 // template placed, explained and checked, without generating anything.
+#include "app/VerbeVerifier.h"
+
 #include <iostream>
 
 #include "app/Travail.h"
-#include "app/Verbes.h"
 #include "frame/ResolutionChemins.h"
 #include "verification/Rapport.h"
 #include "verification/VerificationModele.h"

@@ -1,5 +1,15 @@
 #include "app/Verbes.h"
 
+#include "app/VerbeConvertir.h"
+#include "app/VerbeDossier.h"
+#include "app/VerbeGraphique.h"
+#include "app/VerbeIni.h"
+#include "app/VerbeModeles.h"
+#include "app/VerbeOuvrir.h"
+#include "app/VerbePDE.h"
+#include "app/VerbeVerifier.h"
+#include "app/VerbesDocuments.h"
+#include "app/VerbesFenetres.h"
 #include "app/Version.h"
 #include "frame/Texte.h"
 

@@ -20,20 +20,4 @@ const std::vector<Verbe>& TableVerbes();
 int ExecuterVerbe(Application& application);
 std::string TexteAide();
 
-// One function a verb, each in its own file.
-int VerbeIni(Application& application);
-int VerbeOuvrir(Application& application);
-int VerbeCreer(Application& application);
-int VerbeCerfa(Application& application);
-int VerbeGraph(Application& application);
-int VerbeDossier(Application& application);
-int VerbeGenerer(Application& application);
-int VerbeMettreAJour(Application& application);
-int VerbeExpliquer(Application& application);
-int VerbeConvertir(Application& application);
-int VerbeModeles(Application& application);
-int VerbeGraphique(Application& application);
-int VerbeVerifier(Application& application);
-int VerbePDE(Application& application);
-
 }  // namespace norvane

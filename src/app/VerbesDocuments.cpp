@@ -1,9 +1,10 @@
 // GENERER, METTREAJOUR and EXPLIQUER: the headless jobs on documents.
+#include "app/VerbesDocuments.h"
+
 #include <iostream>
 
 #include "app/EditeurLigneCommande.h"
 #include "app/Travail.h"
-#include "app/Verbes.h"
 #include "frame/Encodage.h"
 #include "study/DossierGeneral.h"
 #include "template/Generateur.h"

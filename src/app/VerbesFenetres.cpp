@@ -2,9 +2,10 @@
 // dossier loaded, as the window would need it. The windows come with the
 // graphical build; a run without them says so and fails, so that a calling
 // script notices.
+#include "app/VerbesFenetres.h"
+
 #include <iostream>
 
-#include "app/Verbes.h"
 #include "frame/LigneCommande.h"
 #include "study/DossierGeneral.h"
 

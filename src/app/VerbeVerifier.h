@@ -1,0 +1,10 @@
+// VERIFIER: every code of a template checked, nothing generated.
+#pragma once
+
+#include "app/Application.h"
+
+namespace norvane {
+
+int VerbeVerifier(Application& application);
+
+}  // namespace norvane
