@@ -19,19 +19,28 @@ void DessinerAires2D(const Trace2D& t, const std::vector<std::size_t>& series) {
       bas << QPointF(x, t.repere.Y(t.pile.bas[k][ci], serie.axeSecondaire));
     }
     if (haut.isEmpty()) continue;
-    QPolygonF forme = haut;
-    for (auto p = bas.crbegin(); p != bas.crend(); ++p) forme << *p;
-    t.peintre.setPen(Qt::NoPen);
-    t.peintre.setBrush(BrosseSerie(serie));
-    t.peintre.setOpacity(superposees ? 0.6 : 1.0);
-    t.peintre.drawPolygon(forme);
-    t.peintre.setOpacity(1.0);
-    QPen trait = TraitSerie(serie);
-    trait.setColor(Teinte(serie.couleur, 0.7));
-    t.peintre.setPen(trait);
-    t.peintre.drawPolyline(haut);
+    DessinerBande(t, serie, haut, bas, {superposees ? 0.6 : 1.0, 0.7, false});
   }
   t.peintre.restore();
+}
+
+void DessinerBande(const Trace2D& t, const SerieDessinee& serie, const QPolygonF& haut, const QPolygonF& bas,
+                   const StyleBande& style) {
+  QPolygonF forme = haut;
+  for (auto p = bas.crbegin(); p != bas.crend(); ++p) forme << *p;
+  t.peintre.setPen(Qt::NoPen);
+  t.peintre.setBrush(BrosseSerie(serie));
+  t.peintre.setOpacity(style.opacite);
+  t.peintre.drawPolygon(forme);
+  t.peintre.setOpacity(1.0);
+  QPen trait = TraitSerie(serie);
+  trait.setColor(Teinte(serie.couleur, style.teinteBord));
+  if (style.anglesVifs) {
+    trait.setCapStyle(Qt::FlatCap);
+    trait.setJoinStyle(Qt::MiterJoin);
+  }
+  t.peintre.setPen(trait);
+  t.peintre.drawPolyline(haut);
 }
 
 }  // namespace norvane

@@ -4,6 +4,7 @@
 #include <QPainterPath>
 #include <algorithm>
 
+#include "graphs/render/Aires2D.h"
 #include "graphs/render/Pinceaux.h"
 
 namespace norvane {
@@ -51,19 +52,7 @@ void DessinerEscaliers2D(const Trace2D& t, const std::vector<std::size_t>& serie
       bas << QPointF(x0, yb) << QPointF(x0 + slot, yb);
     }
     if (haut.isEmpty()) continue;
-    QPolygonF forme = haut;
-    for (auto p = bas.crbegin(); p != bas.crend(); ++p) forme << *p;
-    t.peintre.setPen(Qt::NoPen);
-    t.peintre.setBrush(BrosseSerie(serie));
-    t.peintre.setOpacity(superposes ? 0.55 : 1.0);
-    t.peintre.drawPolygon(forme);
-    t.peintre.setOpacity(1.0);
-    QPen trait = TraitSerie(serie);
-    trait.setColor(Teinte(serie.couleur, 0.75));
-    trait.setCapStyle(Qt::FlatCap);
-    trait.setJoinStyle(Qt::MiterJoin);
-    t.peintre.setPen(trait);
-    t.peintre.drawPolyline(haut);
+    DessinerBande(t, serie, haut, bas, {superposes ? 0.55 : 1.0, 0.75, true});
   }
   t.peintre.restore();
 }
